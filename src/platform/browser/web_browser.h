@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+namespace browser {
+
+/// Commands of ExecWB.
+enum Command : int { Print = 6, PrintPreview = 7, PageSetup = 8, Copy = 12, SelectAll = 17 };
+
+/// Which pane new WebBrowsers have: the real one, or one that records and shows text only (the
+/// engine of the real one does not survive sanitizers).
+enum class Backend { Engine, Recording };
+void SetBackend(Backend backend);
+Backend CurrentBackend();
+
+/// To be called before the application object is made: sandbox, backend and flags of the engine.
+void PrepareProcess();
+
+class Pane;
+
+/// The pane. Pages of the application folder are shown without script and without any access
+/// beyond the page itself; web pages keep theirs.
+class WebBrowser : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit WebBrowser(QWidget *parent = nullptr);
+    ~WebBrowser() override;
+
+    /// Makes the engine's view; to be called once the window is on the screen. Until then
+    /// navigations wait.
+    void CreateView();
+
+    /// Shows the page at a drive path or a web address. Returns at once.
+    void Navigate(const QString &address);
+    void GoBack();
+    void GoForward();
+    void GoHome();
+    void Stop();
+    void Refresh();
+    QString LocationURL() const;
+    QString LocationName() const;
+
+    /// Runs a command; raises what stands in the way (-2147467259 when it cannot be done).
+    void ExecWB(int command, int option = 0);
+
+    /// What is selected in the page.
+    QString SelectedText() const;
+    /// Opens the find bar, as Ctrl+F in the pane does.
+    void ShowFindBar();
+
+    /// For tests: addresses as they were given and commands run since the last call; the page's
+    /// text as shown; whether a load is still in progress.
+    QStringList TakeNavigations();
+    QList<int> TakeCommands();
+    QString ShownText() const;
+    bool IsLoading() const;
+
+signals:
+    void StatusTextChange(const QString &text);
+    void TitleChange(const QString &text);
+
+private:
+    std::unique_ptr<Pane> m_pane;
+    QStringList m_navigations;
+    QList<int> m_commands;
+    QString m_waiting;
+    friend class Pane;
+};
+
+} // namespace browser

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QComboBox>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace controls {
+
+/// A single-line text box. Change comes for typing and for every different text that the program
+/// sets; text that an input method still composes raises nothing.
+class TextBox : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit TextBox(QWidget *parent = nullptr);
+    QString Text() const { return text(); }
+    void SetText(const QString &value);
+    /// Puts the caret behind the last character.
+    void CaretToEnd();
+
+signals:
+    void Change();
+    /// A key pressed, outside of composition: 13 Enter, 27 Esc, 8 Backspace, else the character's
+    /// code. Setting *swallow keeps it from the box.
+    void KeyPress(int character, bool *swallow);
+    /// The key that moves into the list below.
+    void DownPressed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+};
+
+/// A drop-down box. Not editable: its text is an item's, or one that the program set.
+class ComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit ComboBox(QWidget *parent = nullptr);
+    void AddItem(const QString &text);
+    void Clear();
+    int ListCount() const { return count(); }
+    QString List(int row) const { return itemText(row); }
+    int ListIndex() const { return currentIndex(); }
+    QString Text() const;
+    /// Shows the text, selecting the first item equal to it if there is one; raises no Click.
+    void SetText(const QString &text);
+
+signals:
+    /// An item was chosen, by the user or by Choose.
+    void Click();
+    void KeyPress(int character, bool *swallow);
+
+public slots:
+    /// Chooses a row as the user would.
+    void Choose(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    QString m_freeText;
+};
+
+/// A label that can be clicked.
+class ClickLabel : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit ClickLabel(QWidget *parent = nullptr);
+
+signals:
+    void Click();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+};
+
+/// A toolbar picture: acts on mouse down. Its frame is drawn around it by the form's surface.
+class Picture : public QWidget
+{
+    Q_OBJECT
+public:
+    enum class Frame { Flat, Raised, Pressed };
+
+    Picture(const QIcon &icon, QWidget *parent = nullptr);
+    Frame CurrentFrame() const { return m_frame; }
+    void SetFrame(Frame frame);
+    void SetIcon(const QIcon &icon);
+
+signals:
+    void MouseDown();
+    void MouseMove();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QIcon m_icon;
+    Frame m_frame = Frame::Flat;
+};
+
+/// The one-panel status bar.
+class StatusBar : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit StatusBar(QWidget *parent = nullptr);
+    QString SimpleText() const { return m_text; }
+    void SetSimpleText(const QString &text);
+
+private:
+    QString m_text;
+};
+
+/// Qt's font of a font choice: "ＭＳ Ｐゴシック" and its kin resolve to a Japanese gothic.
+QFont MakeFont(const QString &name, int points, bool bold, bool italic, bool strikeout, bool underline);
+/// Qt's colour of a 0x00BBGGRR value.
+QColor MakeColor(qint32 bgr);
+
+} // namespace controls

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace controls {
+
+/// Why a form is unloaded.
+enum class UnloadReason { Code, Frame, Exit };
+
+/// A window with the life of a form: loaded, shown, asked, unloaded. It is made with `new` and
+/// destroys itself after it has been unloaded, when no handler of it runs any more.
+class Form : public QWidget
+{
+    Q_OBJECT
+public:
+    /// The name becomes the objectName.
+    explicit Form(const QString &name, QWidget *parent = nullptr);
+    ~Form() override;
+
+    /// Runs Form_Load once. A failure in it unloads the form, gives input back to the form that it
+    /// disabled, and goes on to the caller.
+    void Load();
+    /// Loads if need be, and shows the form; modal ones block every other window. Both return at once.
+    void ShowForm();
+    void ShowModal();
+    /// Asks Form_QueryUnload, then runs Form_Unload and goes. False when it was refused.
+    bool Unload(UnloadReason reason = UnloadReason::Code);
+    bool IsLoaded() const { return m_loaded; }
+
+    /// Blocks every input to this window, menus and shortcuts included, without greying it, or gives
+    /// it back and activates the window. Closing by the frame is asked of AcceptsFrameClose.
+    void SetTakesInput(bool takes);
+    bool TakesInput() const { return m_takesInput; }
+
+    /// Puts the form in the middle of its screen.
+    void Centre();
+
+    /// The forms that are loaded, oldest first.
+    static QList<Form *> Loaded();
+    /// The loaded form of that name, or nullptr.
+    static Form *Named(const QString &name);
+
+signals:
+    void Unloaded();
+
+protected:
+    virtual void Form_Load() {}
+    /// False refuses.
+    virtual bool Form_QueryUnload(UnloadReason reason);
+    virtual void Form_Unload(UnloadReason reason);
+    /// Whether the window frame may close the form at present.
+    virtual bool AcceptsFrameClose() const { return true; }
+    virtual void Form_MouseMove(const QPoint &) {}
+    virtual void Form_Resize() {}
+
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+
+private:
+    bool m_loaded = false;
+    bool m_unloading = false;
+    bool m_takesInput = true;
+};
+
+} // namespace controls

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QRect>
+
+/// Lengths on screen are twips, 1/1440 of an inch: 15 of them are one logical pixel.
+namespace controls {
+
+inline constexpr int kTwipsPerPixel = 15;
+
+/// Logical pixels of a length, rounded half away from zero.
+constexpr int Pixels(int twips)
+{
+    return (twips >= 0 ? twips + kTwipsPerPixel / 2 : twips - kTwipsPerPixel / 2) / kTwipsPerPixel;
+}
+constexpr int Twips(int pixels) { return pixels * kTwipsPerPixel; }
+
+/// A rectangle in twips.
+struct TwipRect
+{
+    int left = 0, top = 0, width = 0, height = 0;
+    bool operator==(const TwipRect &) const = default;
+    int Right() const { return left + width; }
+    int Bottom() const { return top + height; }
+};
+inline QRect PixelRect(const TwipRect &r)
+{
+    const int x = Pixels(r.left), y = Pixels(r.top);
+    return {x, y, Pixels(r.left + r.width) - x, Pixels(r.top + r.height) - y};
+}
+
+} // namespace controls
