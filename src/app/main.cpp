@@ -1,0 +1,20 @@
+#include "core/program.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
+
+int main(int argc, char *argv[])
+{
+    const QString executable = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath();
+    const QString share = Program::ShareFolder(executable, QStringLiteral(WORDMERE_SHARE_IN_BUILD));
+    Program::PrepareProcess(share);
+    const QApplication application(argc, argv);
+    Program::PrepareApplication();
+
+    Program program({.shareFolder = share});
+    // Queued, because the run may end before the event loop has begun.
+    QObject::connect(&program, &Program::Ended, &application, &QApplication::quit, Qt::QueuedConnection);
+    QTimer::singleShot(0, &program, &Program::Start);
+    return QApplication::exec();
+}

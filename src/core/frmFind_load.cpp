@@ -1,0 +1,269 @@
+#include "core/catalogue.h"
+#include "core/failure_handling.h"
+#include "core/pure/app_files.h"
+#include "core/pure/dictionary_file.h"
+#include "core/shared_state.h"
+#include "platform/browser/web_browser.h"
+#include "platform/dialogs/dialogs.h"
+#include "platform/files/file_operations.h"
+#include "platform/files/fixed_record_file.h"
+#include "platform/files/line_file.h"
+#include "platform/host/host.h"
+#include "presentation/frmFind.h"
+#include "presentation/pure/entry_page.h"
+#include "presentation/target_caption.h"
+
+#include <QAction>
+#include <cmath>
+
+namespace {
+
+QString FontFile() { return QStringLiteral("FontDefi.dat"); }
+QString ListFile() { return QStringLiteral("ListDefi.dat"); }
+QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
+QString StyleFile() { return QStringLiteral("sscDefi.dat"); }
+QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
+QString HelpFile() { return AppFilePath(QStringLiteral("Help.HLP")); }
+
+void TakeFontRow(int slot, const FontRow &row)
+{
+    Shared.FontNames[slot] = row.name;
+    Shared.FontSizes[slot] = row.size;
+    Shared.FontColors[slot] = row.color;
+    Shared.FontBolds[slot] = row.bold;
+    Shared.FontItalics[slot] = row.italic;
+    Shared.FontStrikes[slot] = row.strikeout;
+    Shared.FontUnderlines[slot] = row.underline;
+}
+
+FontRow RowOfSlot(int slot)
+{
+    return {Shared.FontNames[slot], Shared.FontSizes[slot],   Shared.FontColors[slot],    Shared.FontBolds[slot],
+            Shared.FontItalics[slot], Shared.FontStrikes[slot], Shared.FontUnderlines[slot]};
+}
+
+void MakeFontSlots()
+{
+    Shared.FontNames.resize(kFontSlots);
+    Shared.FontSizes.resize(kFontSlots);
+    Shared.FontColors.resize(kFontSlots);
+    for (QList<std::int16_t> *flags :
+         {&Shared.FontBolds, &Shared.FontItalics, &Shared.FontStrikes, &Shared.FontUnderlines})
+        flags->resize(kFontSlots);
+}
+
+void ApplyFont(QWidget *control, int slot, int points)
+{
+    const FontRow row = RowOfSlot(slot);
+    control->setFont(controls::MakeFont(row.name, points, row.bold != 0, row.italic != 0, row.strikeout != 0,
+                                        row.underline != 0));
+    QPalette palette = control->palette();
+    const QColor color = controls::MakeColor(row.color);
+    palette.setColor(QPalette::Text, color);
+    palette.setColor(QPalette::WindowText, color);
+    palette.setColor(QPalette::ButtonText, color);
+    control->setPalette(palette);
+}
+
+} // namespace
+
+void frmFind::SetDefaultFonts()
+{
+    MakeFontSlots();
+    for (int slot = 0; slot < kFontSlots; ++slot)
+        TakeFontRow(slot, DefaultFontRow(slot));
+}
+
+void frmFind::ReadFontFile(const QString &name)
+{
+    files::FixedRecordFile file(AppFilePath(name), kFontRecordLength);
+    std::array<FontRow, kFontSlots> rows;
+    for (int slot = 0; slot < kFontSlots; ++slot)
+        rows[static_cast<std::size_t>(slot)] = DecodeFontRow(file.Read(slot + 1));
+    MakeFontSlots();
+    for (int slot = 0; slot < kFontSlots; ++slot)
+        TakeFontRow(slot, rows[static_cast<std::size_t>(slot)]);
+}
+
+void frmFind::WriteFontFile(const QString &name)
+{
+    QByteArray content;
+    for (int slot = 0; slot < kFontSlots; ++slot)
+        content += EncodeFontRow(RowOfSlot(slot));
+    files::Replace(AppFilePath(name), content);
+}
+
+void frmFind::LoadFonts()
+{
+    if (files::Exists(AppFilePath(FontFile()))) {
+        ReadFontFile(FontFile());
+        return;
+    }
+    SetDefaultFonts();
+    WriteFontFile(FontFile());
+    CreateHTMLHeader();
+}
+
+void frmFind::LoadListSettings()
+{
+    const QString path = AppFilePath(ListFile());
+    if (!files::Exists(path))
+        files::Replace(path, DefaultListLine().toLatin1() + "\r\n");
+    files::LineReader reader(path);
+    const ListSettings settings = ParseListLine(reader.AtEnd() ? QString() : reader.ReadLine());
+    Shared.IncListCount = settings.IncListCount;
+    Shared.IncEntriesPerPage = settings.IncEntriesPerPage;
+    Shared.ListPageSize = settings.ListPageSize;
+    Shared.MaxListCount = settings.MaxListCount;
+    Shared.EntriesPerPage = settings.EntriesPerPage;
+    Shared.WordBookMax = settings.WordBookMax;
+    Shared.SearchTarget = settings.SearchTarget;
+}
+
+void frmFind::LoadCatalogue()
+{
+    const std::int16_t result = LoadLexicons(CatalogueFile());
+    Shared.CatalogueFlag1 = result;
+    Shared.CatalogueFlag2 = result;
+    if (result == 0 || !files::Exists(Shared.CurrentDicPath))
+        return;
+    ADODB::Connection connection;
+    connection.Open(ViewConnectionString(Shared.CurrentDicPath));
+    ADODB::Recordset table;
+    OpenTableByIndex(connection, table);
+    if (!table.Eof()) {
+        TableFirstWord = table.Fields().Item(QStringLiteral("Word")).Text();
+        TableFirstAutoID = table.Fields().Item(QStringLiteral("AutoID")).Value().toInt();
+        table.MoveLast();
+        TableLastWord = table.Fields().Item(QStringLiteral("Word")).Text();
+    }
+    table.Close();
+    connection.Close();
+}
+
+void frmFind::SizeWindow()
+{
+    constexpr int wideScreenPixels = 800;
+    if (host::ScreenWidth() >= wideScreenPixels)
+        resize(controls::Pixels(12000), controls::Pixels(9000));
+    else
+        resize(controls::Pixels(9600), controls::Pixels(7200));
+}
+
+void frmFind::ApplyFonts()
+{
+    if (Shared.FontNames.size() < kFontSlots)
+        return;
+    constexpr int labelPoints = 9;
+    ApplyFont(Combo1, FontCombo, Shared.FontSizes[FontCombo]);
+    ApplyFont(txtFind, FontEntry, Shared.FontSizes[FontEntry]);
+    ApplyFont(Label1, FontEntry, labelPoints);
+    ApplyFont(List1, FontList, Shared.FontSizes[FontList]);
+}
+
+void frmFind::ApplySearchTarget()
+{
+    if (Shared.SearchTarget <= TargetPhrases)
+        Label1->setText(TargetCaption(Shared.SearchTarget));
+    Menu(QStringLiteral("mnuSrchFromAll"))->setChecked(Shared.SearchTarget == TargetAll);
+    Menu(QStringLiteral("mnuSrchFromWord"))->setChecked(Shared.SearchTarget == TargetWords);
+    Menu(QStringLiteral("mnuSrchFromPhrase"))->setChecked(Shared.SearchTarget == TargetPhrases);
+    PictureOf(19)->setVisible(Shared.SearchTarget == TargetAll);
+    PictureOf(20)->setVisible(Shared.SearchTarget == TargetAll);
+}
+
+void frmFind::CheckHelpFile()
+{
+    if (files::Exists(HelpFile()))
+        return;
+    dialogs::MsgBox(QStringLiteral("ヘルプファイルがアプリケーションフォルダから\r\n"
+                                   "削除されています！ Wordmere は起動しますが、\r\n"
+                                   "ヘルプファイルは参照できません。"),
+                    dialogs::Exclamation, QStringLiteral("ヘルプファイル未検出"));
+}
+
+void frmFind::LoadCharacter()
+{
+    const QString path = AppFilePath(AgentFile());
+    if (!files::Exists(path))
+        files::Replace(path, EncodeAgentSettings(DefaultAgentSettings()));
+    const AgentSettings settings =
+        DecodeAgentSettings(files::FixedRecordFile(path, kAgentRecordLength).Read(1));
+    Shared.CharacterFolder = settings.folder == DefaultAgentSettings().folder
+                                 ? WindowsFolderRoot() + QStringLiteral("\\msagent\\Chars")
+                                 : settings.folder;
+    Shared.CharacterFile = settings.file;
+    if (Shared.CharacterFile.isEmpty())
+        Shared.CharacterFile = files::Matching(Shared.CharacterFolder, QStringLiteral("*.acs")).value(0);
+    Shared.NoCharacterFile = Shared.CharacterFile.isEmpty();
+    Shared.SpeechEnabled = Shared.NoCharacterFile ? std::uint8_t{0} : settings.enabled;
+    Shared.CharacterPath = Shared.CharacterFolder + u'\\' + Shared.CharacterFile;
+    Shared.CharacterID = CharacterIdFromFile(Shared.CharacterFile);
+}
+
+void frmFind::PrepareEntryPaging()
+{
+    const QString count = QString::number(Shared.IncEntriesPerPage);
+    const QString subject = QStringLiteral("見出し語内容を");
+    PictureOf(19)->setToolTip(subject + count + QStringLiteral("件前へ移動"));
+    PictureOf(20)->setToolTip(subject + count + QStringLiteral("件先へ移動"));
+    PictureOf(19)->move(PictureOf(14)->x(), PictureOf(19)->y());
+    PictureOf(20)->move(PictureOf(15)->x(), PictureOf(20)->y());
+    Shared.SavedPicture17Left = CheckedTo<std::int16_t>(BoundsOf(PictureOf(17)).left);
+    Shared.SavedPicture18Left = CheckedTo<std::int16_t>(BoundsOf(PictureOf(18)).left);
+}
+
+void frmFind::LoadPageHeader()
+{
+    files::LineReader reader(AppFilePath(StyleFile()));
+    QStringList lines;
+    while (!reader.AtEnd())
+        lines.append(reader.ReadLine());
+    lines.append(QString());
+    Shared.HtmlHeaderLines = lines;
+}
+
+void frmFind::Form_Load()
+{
+    Shared.StopRequested = 0;
+    ListClickActive = 0;
+    GuardStep([this] { LoadFonts(); });
+    GuardStep([this] {
+        if (!files::Exists(AppFilePath(StyleFile())))
+            CreateHTMLHeader();
+    });
+    GuardStep([this] { LoadListSettings(); });
+    GuardStep([this] { LoadCatalogue(); });
+    ListClickIndex = 0;
+    SizeWindow();
+    PlaceFixedControls();
+    Shared.ListHidden = 0;
+    Menu(QStringLiteral("mnuHideListBox"))->setChecked(false);
+    GuardStep([this] { ApplyFonts(); });
+    ListIsFresh = 1;
+    List1->SetSizingFrame(true);
+    List1->SetItemHeight(static_cast<int>(std::lround(1.3 * List1->ItemHeight())));
+    CheckModeMenu(ModeIncremental);
+    Shared.SearchMode = ModeIncremental;
+    setWindowTitle(QStringLiteral("Wordmere"));
+    ApplySearchTarget();
+    StatusBar1->SetSimpleText(QStringLiteral("Ready"));
+    GuardStep([this] { CheckHelpFile(); });
+    GuardStep([this] { LoadCharacter(); });
+    GuardStep([this] { PrepareEntryPaging(); });
+    GuardStep([this] { LoadPageHeader(); });
+    List1->SetHorizontalExtent(2 * List1->viewport()->width());
+    GuardStep([this] { ShowBlankPage(); });
+    GuardStep([this] { SetDictionaryView(); });
+}
+
+void frmFind::Form_Unload(controls::UnloadReason)
+{
+    ForgetMainWindow();
+    if (LexiconsAllocated() != QStringLiteral("0")) {
+        GuardStep([] { SaveLexicons(CatalogueFile()); });
+        GuardStep([] { files::DeleteIfThere(AppFilePath(QStringLiteral("ListData.dat"))); });
+        host::WinHelp(HelpFile(), host::HelpQuit);
+    }
+    Q_EMIT Gone();
+}

@@ -1,0 +1,98 @@
+#include "core/program.h"
+
+#include "core/StartupForm.h"
+#include "core/failure_handling.h"
+#include "core/shared_state.h"
+#include "platform/browser/web_browser.h"
+#include "platform/controls/handler.h"
+#include "platform/data/adodb.h"
+#include "platform/files/application_folder.h"
+#include "presentation/frmFind.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QStyleFactory>
+#include <QTranslator>
+
+Program::Program(Options options) : m_options(std::move(options))
+{
+    if (m_options.applicationFolder.isEmpty())
+        m_options.applicationFolder = files::ChooseApplicationFolder(QApplication::applicationDirPath());
+}
+
+Program::~Program() = default;
+
+void Program::Start()
+{
+    auto *splash = new StartupForm(*this);
+    splash->Load();
+    splash->Unload();
+}
+
+bool Program::TakeFolder()
+{
+    m_lock = std::make_unique<host::InstanceLock>(m_options.applicationFolder);
+    m_gaveWay = m_lock->HeldElsewhere();
+    if (m_gaveWay)
+        return false;
+    Shared = SharedState{};
+    files::SetApplicationFolder(m_options.applicationFolder);
+    if (m_options.fillFolder)
+        GuardStep([this] {
+            files::FillApplicationFolder(m_options.applicationFolder,
+                                         {m_options.shareFolder, m_options.withSample});
+        });
+    return true;
+}
+
+void Program::LeaveSplash()
+{
+    if (m_gaveWay) {
+        Q_EMIT Ended();
+        return;
+    }
+    auto *window = new frmFind;
+    connect(window, &frmFind::Gone, this, &Program::Ended);
+    window->ShowForm();
+}
+
+void Program::PrepareProcess(const QString &shareFolder)
+{
+    const QString fonts = shareFolder + QStringLiteral("/fonts.conf");
+    if (QFileInfo::exists(fonts) && !qEnvironmentVariableIsSet("FONTCONFIG_FILE"))
+        qputenv("FONTCONFIG_FILE", fonts.toLocal8Bit());
+    browser::PrepareProcess();
+}
+
+void Program::PrepareApplication()
+{
+    QApplication::setApplicationName(QStringLiteral("Wordmere"));
+    QApplication::setDesktopFileName(QStringLiteral("io.github.wordmere.Wordmere"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/wordmere.svg")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    constexpr int interfacePoints = 9;
+    QApplication::setFont(
+        controls::MakeFont(DefaultFontName(), interfacePoints, false, false, false, false));
+    QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
+    auto *words = new QTranslator(qApp);
+    if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(words);
+
+    controls::SetFailureHandler(HandleByDefault);
+    host::SetBeforeTurnHook(ADODB::ReleaseReads);
+    ADODB::EngineHooks().progress = host::DoEvents;
+    ADODB::EngineHooks().busy = [](bool busy) {
+        host::SetMousePointer(busy ? host::PointerHourglass : host::PointerDefault);
+    };
+}
+
+QString Program::ShareFolder(const QString &executable, const QString &fallback)
+{
+    const QString installed =
+        QFileInfo(executable).absolutePath() + QStringLiteral("/../share/wordmere");
+    return QFileInfo(installed).isDir() ? QFileInfo(installed).canonicalFilePath() : fallback;
+}

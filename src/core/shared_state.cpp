@@ -1,0 +1,3 @@
+#include "core/shared_state.h"
+
+SharedState Shared;

@@ -1,0 +1,174 @@
+#pragma once
+
+#include "platform/controls/controls.h"
+#include "platform/controls/form.h"
+#include "platform/controls/list_box.h"
+#include "platform/controls/twips.h"
+
+#include <QHash>
+#include <array>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+namespace browser {
+class WebBrowser;
+}
+
+/// The main window. It is a hub on purpose: its members are defined in the folder of the subsystem
+/// that owns them, and every dialog reaches into it.
+class frmFind : public controls::Form
+{
+    Q_OBJECT
+public:
+    frmFind();
+    ~frmFind() override;
+
+    // Controls
+    controls::ComboBox *Combo1 = nullptr;
+    controls::ClickLabel *Label1 = nullptr;
+    controls::TextBox *txtFind = nullptr;
+    QComboBox *Combo2 = nullptr;
+    controls::ListBox *List1 = nullptr;
+    browser::WebBrowser *WebBrowser1 = nullptr;
+    controls::StatusBar *StatusBar1 = nullptr;
+    /// Picture0 (start) and Picture00 (stop); the others by their number, 1 to 28.
+    controls::Picture *Picture0 = nullptr;
+    controls::Picture *Picture00 = nullptr;
+    controls::Picture *PictureOf(int number) const;
+    /// A menu entry by its name; nullptr for none.
+    QAction *Menu(const QString &name) const;
+
+    // The incremental search's place in the table
+    QString TableFirstWord;
+    std::int32_t TableFirstAutoID = 0;
+    QString TableLastWord;
+    QString PageFirstWord;
+    std::int32_t PageFirstAutoID = 0;
+    QString PageLastWord;
+    std::int32_t PageLastAutoID = 0;
+    std::uint8_t ListClickActive = 0;
+    std::int32_t ListClickIndex = 0;
+    std::int32_t ListClickAutoID = 0;
+    std::uint8_t ListIsFresh = 0;
+
+    // search/
+    /// Shows list and page from the place of the text in the table; with an autoID other than 0,
+    /// from that record. The table's first headword sets autoID to TableFirstAutoID.
+    void ListWordsDescriptions(const QString &text, std::int32_t &autoID);
+    /// The same for words or phrases alone, by a statement.
+    void ListWordsDescriptions2(const QString &text);
+    /// Shows the entries from a row of the list on.
+    void ListWordsDescriptions3(std::int32_t index);
+    /// Shows the page of entries before (direction 1) or behind (2) the one that begins with the
+    /// record, which becomes the new page's first.
+    void ListWordsDescriptions5(QString &word, std::int32_t &autoID, int direction);
+    void txtFind_Change();
+    void txtFind_KeyPress(int character, bool *swallow);
+    void List1_Click();
+    void List1_KeyPress(int character);
+    void List1_MouseMove(const QPoint &point);
+    void Picture19_MouseDown();
+    void Picture20_MouseDown();
+
+    // presentation/
+    /// Writes the blank page, or one with a message; does not show it.
+    void WriteMessagePage(const QString &message);
+    /// Writes the blank page and shows it.
+    void ShowBlankPage();
+    /// Shows `home.html`.
+    void NavigateHome();
+    /// Writes the default look to `sscDefi.dat`.
+    void CreateHTMLHeader();
+    /// The default look into the nine font slots.
+    void SetDefaultFonts();
+    void SetIncrementalMode();
+    void SetDictionaryView();
+    void ToggleHeadwordList();
+    void RestorePaneLayout();
+    /// Kind 0: the entry box takes the room of the search button; kind 1: the button stands.
+    void ChangeWordEntryBoxSize(int kind);
+    /// Follows the user's drag of the list's right edge; the other edges snap back.
+    void FitPaneToList();
+    /// Sets the search target with its checks; the caption's colon is that of the caller.
+    void SetTarget(std::uint8_t target, const QString &caption);
+    void Combo1_Click();
+    void Combo1_KeyPress(int character, bool *swallow);
+    void Label1_Click();
+    void mnuSrchFromAll_Click();
+    void mnuSrchFromWord_Click();
+    void mnuSrchFromPhrase_Click();
+    void mnuIncSrch_Click();
+    void mnuHideListBox_Click();
+    void mnuExit_Click();
+    void mnuCopy_Click();
+    void mnuSelectAll_Click();
+    void mnuFind_Click();
+    void mnuPrint_Click();
+    void mnuPrintView_Click();
+    void mnuPageSettings_Click();
+    void Picture12_MouseDown();
+    void RaisePicture(int number);
+    void PressPicture(int number);
+    void FlatPicture(int number);
+    /// Empties the entry box, the list and the page, and puts the focus back: what Esc does.
+    void ClearSearch();
+
+    // core/
+    void ReadFontFile(const QString &name);
+    void WriteFontFile(const QString &name);
+
+Q_SIGNALS:
+    /// The window has been unloaded.
+    void Gone();
+
+protected:
+    void Form_Load() override;
+    void Form_Unload(controls::UnloadReason reason) override;
+    void Form_Resize() override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    // core/frmFind_load.cpp: the numbered steps of the load
+    void LoadFonts();
+    void LoadListSettings();
+    void LoadCatalogue();
+    void SizeWindow();
+    void ApplyFonts();
+    void ApplySearchTarget();
+    void CheckHelpFile();
+    void LoadCharacter();
+    void PrepareEntryPaging();
+    void LoadPageHeader();
+
+    // presentation/frmFind_controls.cpp
+    void MakeControls();
+    void MakeMenus();
+    void MakePictures();
+    void ConnectHandlers();
+
+    // presentation/layout.cpp
+    void PlaceFixedControls();
+    void PlaceStatusBar();
+    int InnerWidth() const;
+    int InnerHeight() const;
+    void SetBounds(QWidget *control, const controls::TwipRect &rect);
+    controls::TwipRect BoundsOf(const QWidget *control) const;
+    void RememberLayout();
+    void Command(const QString &menu, void (frmFind::*handler)(), int picture = 0);
+    void SetTargetAndRepeat(std::uint8_t target, const QString &caption);
+    void ExecPrinting(int command);
+
+    QMenuBar *m_menuBar = nullptr;
+    QWidget *m_surface = nullptr;
+    QMenu *m_popup = nullptr;
+    QHash<QString, QAction *> m_menus;
+    std::array<controls::Picture *, 29> m_pictures{};
+    controls::TwipRect m_rememberedList, m_rememberedPane;
+    int m_entryBoxKind = 0;
+    bool m_viewMade = false;
+    friend class Surface;
+};
+
+/// The main window while it is loaded, else nullptr.
+frmFind *MainWindow();
