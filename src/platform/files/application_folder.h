@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace files {
+namespace files
+{
 
 /// The folder of settings and working files, as a drive path without a backslash at its end.
 /// Decided by SetApplicationFolder; until then empty.
@@ -14,8 +15,7 @@ void SetApplicationFolder(const QString &hostPath);
 QString ChooseApplicationFolder(const QString &executableFolder);
 
 /// What the first fill and later refreshes bring.
-struct Shipped
-{
+struct Shipped {
     QString shareFolder; ///< host path of the installed files
     bool withSample = true;
 };

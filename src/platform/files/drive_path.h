@@ -4,7 +4,8 @@
 
 /// Paths. Inside the program a path is a drive path (`C:\dic\a.mdb`). On Windows it is the host's
 /// own; elsewhere drive Z: is the root directory.
-namespace files {
+namespace files
+{
 
 /// The host path of a drive path; raises 76 on a drive that the host lacks and on a relative path.
 QString HostPath(const QString &drivePath);

@@ -8,7 +8,8 @@
 /// Operations on whole files. All paths are drive paths. Failures are raised with the numbers 52
 /// (bad name), 53 (not found), 57 (device), 58 (exists), 61 (disk full), 70 (permission denied)
 /// and 76 (path not found).
-namespace files {
+namespace files
+{
 
 /// Whether a file (not a folder) stands there; never raises.
 bool Exists(const QString &path);
@@ -36,6 +37,11 @@ void Rename(const QString &from, const QString &to);
 /// leaves the old or the new file whole.
 void Replace(const QString &path, const QByteArray &content);
 
+/// Puts the file `from` in the place of the file `path`, which need not exist: one step within a file
+/// system; across file systems `from` is copied beside the target, flushed and renamed, then deleted.
+/// A crash leaves the old or the new file whole.
+void ReplaceByFile(const QString &path, const QString &from);
+
 /// The whole content; raises 53.
 QByteArray ReadAll(const QString &path);
 
@@ -43,7 +49,8 @@ QByteArray ReadAll(const QString &path);
 /// where there is no such folder.
 QStringList Matching(const QString &folder, const QString &pattern);
 
-/// Bytes free for the user, and in all, on the file system that holds the path; raises 76.
+/// Bytes free for the user, and in all, on the file system that holds the path (a path that is not
+/// there belongs to its nearest folder that is); raises 76.
 qint64 FreeBytes(const QString &path);
 qint64 TotalBytes(const QString &path);
 

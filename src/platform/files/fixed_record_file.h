@@ -4,7 +4,8 @@
 #include <QFile>
 #include <QString>
 
-namespace files {
+namespace files
+{
 
 /// A file of equal records without a header, numbered from 1. Created when it does not exist.
 /// Written in place. Closed by the destructor.

@@ -5,7 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-namespace files {
+namespace files
+{
 
 /// A text file that is written in place, line by line, each ended by CR LF, and not flushed to the
 /// disk: a working file.
