@@ -17,9 +17,8 @@ StartupForm::StartupForm(Program &program) : Form(QStringLiteral("StartupForm"))
 void StartupForm::Form_Load()
 {
     if (!m_program.TakeFolder())
-        dialogs::MsgBox(
-            QStringLiteral("Wordmere は既に開かれています。二重起動はできません！"), dialogs::Exclamation,
-            QStringLiteral("アプリケーション重複起動エラー"));
+        dialogs::MsgBox(QStringLiteral("Wordmere は既に開かれています。二重起動はできません！"),
+                        dialogs::Exclamation, QStringLiteral("アプリケーション重複起動エラー"));
     host::SetMousePointer(host::PointerHourglass);
     Centre();
     show();

@@ -2,11 +2,13 @@
 
 #include "core/pure/app_files.h"
 #include "core/shared_state.h"
+#include "platform/failure/runtime_error.h"
 #include "platform/files/file_operations.h"
 #include "platform/files/fixed_record_file.h"
 #include "presentation/frmFind.h"
 
-namespace {
+namespace
+{
 
 void SetCurrentDictionary(frmFind &window, const Lexicon &lexicon)
 {

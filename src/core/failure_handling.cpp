@@ -6,7 +6,8 @@
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
 
-namespace {
+namespace
+{
 
 QString ErrorTitle() { return QStringLiteral("エラー"); }
 
@@ -54,8 +55,9 @@ void ShowMissingDatabase(const QString &lastLine)
     dialogs::BeepAndMsgBox(
         host::BeepCritical,
         Shared.CurrentDicPath +
-            QStringLiteral("\r\n\r\n上記の辞書データベースが存在しないかレコードが一件も登録されていません。\r\n"
-                           "また、パスが変更されている可能性もあります。\r\n") +
+            QStringLiteral(
+                "\r\n\r\n上記の辞書データベースが存在しないかレコードが一件も登録されていません。\r\n"
+                "また、パスが変更されている可能性もあります。\r\n") +
             lastLine,
         dialogs::Critical,
         QStringLiteral("設定辞書「") + Shared.CurrentDicName + QStringLiteral("」の辞書データベースなし"));
@@ -66,7 +68,8 @@ void ShowRecords(const std::function<void()> &procedure)
     try {
         procedure();
     } catch (const RuntimeError &failure) {
-        if (failure.number() == RuntimeError::CannotOpenDatabase || failure.number() == RuntimeError::InvalidCall)
+        if (failure.number() == RuntimeError::CannotOpenDatabase ||
+            failure.number() == RuntimeError::InvalidCall)
             ShowMissingDatabase(MissingDatabaseHint());
         else
             dialogs::MsgBox(FailureText(failure), dialogs::OKOnly, ErrorTitle());

@@ -16,7 +16,8 @@
 #include <QAction>
 #include <cmath>
 
-namespace {
+namespace
+{
 
 QString FontFile() { return QStringLiteral("FontDefi.dat"); }
 QString ListFile() { return QStringLiteral("ListDefi.dat"); }
@@ -38,8 +39,9 @@ void TakeFontRow(int slot, const FontRow &row)
 
 FontRow RowOfSlot(int slot)
 {
-    return {Shared.FontNames[slot], Shared.FontSizes[slot],   Shared.FontColors[slot],    Shared.FontBolds[slot],
-            Shared.FontItalics[slot], Shared.FontStrikes[slot], Shared.FontUnderlines[slot]};
+    return {Shared.FontNames[slot],     Shared.FontSizes[slot],   Shared.FontColors[slot],
+            Shared.FontBolds[slot],     Shared.FontItalics[slot], Shared.FontStrikes[slot],
+            Shared.FontUnderlines[slot]};
 }
 
 void MakeFontSlots()
@@ -63,6 +65,13 @@ void ApplyFont(QWidget *control, int slot, int points)
     palette.setColor(QPalette::WindowText, color);
     palette.setColor(QPalette::ButtonText, color);
     control->setPalette(palette);
+}
+
+void MoveTo(QWidget *control, int left)
+{
+    controls::TwipRect place = controls::PlaceOf(control);
+    place.left = left;
+    controls::Place(control, place);
 }
 
 } // namespace
@@ -207,10 +216,10 @@ void frmFind::PrepareEntryPaging()
     const QString subject = QStringLiteral("見出し語内容を");
     PictureOf(19)->setToolTip(subject + count + QStringLiteral("件前へ移動"));
     PictureOf(20)->setToolTip(subject + count + QStringLiteral("件先へ移動"));
-    PictureOf(19)->move(PictureOf(14)->x(), PictureOf(19)->y());
-    PictureOf(20)->move(PictureOf(15)->x(), PictureOf(20)->y());
-    Shared.SavedPicture17Left = CheckedTo<std::int16_t>(BoundsOf(PictureOf(17)).left);
-    Shared.SavedPicture18Left = CheckedTo<std::int16_t>(BoundsOf(PictureOf(18)).left);
+    MoveTo(PictureOf(19), controls::PlaceOf(PictureOf(14)).left);
+    MoveTo(PictureOf(20), controls::PlaceOf(PictureOf(15)).left);
+    Shared.SavedPicture17Left = CheckedTo<std::int16_t>(controls::PlaceOf(PictureOf(17)).left);
+    Shared.SavedPicture18Left = CheckedTo<std::int16_t>(controls::PlaceOf(PictureOf(18)).left);
 }
 
 void frmFind::LoadPageHeader()

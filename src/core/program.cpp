@@ -75,8 +75,7 @@ void Program::PrepareApplication()
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     constexpr int interfacePoints = 9;
-    QApplication::setFont(
-        controls::MakeFont(DefaultFontName(), interfacePoints, false, false, false, false));
+    QApplication::setFont(controls::MakeFont(DefaultFontName(), interfacePoints, false, false, false, false));
     QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
     auto *words = new QTranslator(qApp);
     if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -92,7 +91,6 @@ void Program::PrepareApplication()
 
 QString Program::ShareFolder(const QString &executable, const QString &fallback)
 {
-    const QString installed =
-        QFileInfo(executable).absolutePath() + QStringLiteral("/../share/wordmere");
+    const QString installed = QFileInfo(executable).absolutePath() + QStringLiteral("/../share/wordmere");
     return QFileInfo(installed).isDir() ? QFileInfo(installed).canonicalFilePath() : fallback;
 }

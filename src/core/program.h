@@ -11,8 +11,7 @@ class Program : public QObject
 {
     Q_OBJECT
 public:
-    struct Options
-    {
+    struct Options {
         /// How long the splash stands, milliseconds.
         int splashMilliseconds = 3000;
         /// Host path of the installed files; where they are is told by ShareFolder.

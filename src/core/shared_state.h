@@ -26,8 +26,7 @@ enum SearchModeNumber : std::uint8_t {
 enum SearchTargetNumber : std::uint8_t { TargetAll = 0, TargetWords = 1, TargetPhrases = 2 };
 
 /// All state that more than one form needs, at its initial values.
-struct SharedState
-{
+struct SharedState {
     std::uint8_t SearchMode = ModeIncremental;
     std::uint8_t SearchTarget = TargetAll;
     std::int16_t StopRequested = 0;

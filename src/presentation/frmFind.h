@@ -7,11 +7,17 @@
 
 #include <QHash>
 #include <array>
+#include <cstdint>
 
 class QAction;
 class QMenu;
 class QMenuBar;
-namespace browser {
+namespace ADODB
+{
+class Recordset;
+}
+namespace browser
+{
 class WebBrowser;
 }
 
@@ -92,6 +98,12 @@ public:
     void FitPaneToList();
     /// Sets the search target with its checks; the caption's colon is that of the caller.
     void SetTarget(std::uint8_t target, const QString &caption);
+    /// The same, and searches the text of the entry box again.
+    void ChooseTarget(std::uint8_t target, const QString &caption);
+    /// Checks the menu of a search mode and clears the others'.
+    void CheckModeMenu(std::uint8_t mode);
+    /// Moves the focus into the list, to its first row when none is selected.
+    void EnterList();
     void Combo1_Click();
     void Combo1_KeyPress(int character, bool *swallow);
     void Label1_Click();
@@ -129,6 +141,15 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    /// MainWindow() gives nullptr from here on.
+    static void ForgetMainWindow();
+
+    // search/incremental_search.cpp
+    /// Writes list and page from the table's current row on; the list only when no click is active.
+    void FillFrom(ADODB::Recordset &table);
+    /// Writes list and arrays from a statement's rows; returns their number.
+    qsizetype FillFromStatement(ADODB::Recordset &rows);
+
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();
     void LoadListSettings();
@@ -149,14 +170,13 @@ private:
 
     // presentation/layout.cpp
     void PlaceFixedControls();
-    void PlaceStatusBar();
     int InnerWidth() const;
     int InnerHeight() const;
-    void SetBounds(QWidget *control, const controls::TwipRect &rect);
-    controls::TwipRect BoundsOf(const QWidget *control) const;
+    void PlaceEntryRow();
+    /// The framed area of the pane, in pixels of the surface.
+    QRect PaneFrame() const;
     void RememberLayout();
     void Command(const QString &menu, void (frmFind::*handler)(), int picture = 0);
-    void SetTargetAndRepeat(std::uint8_t target, const QString &caption);
     void ExecPrinting(int command);
 
     QMenuBar *m_menuBar = nullptr;
@@ -165,6 +185,7 @@ private:
     QHash<QString, QAction *> m_menus;
     std::array<controls::Picture *, 29> m_pictures{};
     controls::TwipRect m_rememberedList, m_rememberedPane;
+    QSize m_rememberedWindow;
     int m_entryBoxKind = 0;
     bool m_viewMade = false;
     friend class Surface;

@@ -4,10 +4,9 @@
 #include <QString>
 
 /// One entry of the dictionary catalogue.
-struct Lexicon
-{
-    QString DicName; ///< trimmed
-    QString DicPath; ///< drive path, trimmed
+struct Lexicon {
+    QString DicName;       ///< trimmed
+    QString DicPath;       ///< drive path, trimmed
     qint16 IsSelected = 0; ///< -1 for the dictionary in use
     qint16 IsDeleted = 0;  ///< -1 for a free slot
 

@@ -5,7 +5,8 @@
 #include "platform/text/shift_jis.h"
 #include "platform/text/trim.h"
 
-namespace {
+namespace
+{
 
 constexpr int kFontNameLength = 30;
 constexpr qsizetype kListLineLength = 20;
@@ -100,7 +101,8 @@ AgentSettings DecodeAgentSettings(const QByteArray &record)
     AgentSettings settings;
     settings.enabled = static_cast<quint8>(record[0]);
     settings.folder = text::FieldText(text::DecodeRecord(record.sliced(1, kAgentFolderLength)));
-    settings.file = text::FieldText(text::DecodeRecord(record.sliced(1 + kAgentFolderLength, kAgentFileLength)));
+    settings.file =
+        text::FieldText(text::DecodeRecord(record.sliced(1 + kAgentFolderLength, kAgentFileLength)));
     return settings;
 }
 

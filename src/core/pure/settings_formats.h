@@ -10,8 +10,7 @@ inline constexpr int kFontSlots = 9;
 enum FontSlot : int { FontCombo = 0, FontEntry = 1, FontList = 2, FontStyle1 = 3 };
 
 /// One of the nine fonts of `FontDefi.dat`. Flags are 0 or -1; the colour is 0x00BBGGRR.
-struct FontRow
-{
+struct FontRow {
     QString name;
     qint16 size = 0; ///< points
     qint32 color = 0;
@@ -30,8 +29,7 @@ FontRow DefaultFontRow(int slot);
 QString DefaultFontName();
 
 /// The seven numbers of `ListDefi.dat`.
-struct ListSettings
-{
+struct ListSettings {
     qint16 IncListCount = 50;
     qint16 IncEntriesPerPage = 15;
     qint16 ListPageSize = 50;
@@ -49,8 +47,7 @@ QString DefaultListLine();
 ListSettings ParseListLine(const QString &line);
 
 /// The one record of `AgentDefi.dat`.
-struct AgentSettings
-{
+struct AgentSettings {
     quint8 enabled = 0;
     QString folder; ///< a drive path, or "default"
     QString file;   ///< empty: the first one found

@@ -2,6 +2,8 @@
 
 #include <QRect>
 
+class QWidget;
+
 /// Lengths on screen are twips, 1/1440 of an inch: 15 of them are one logical pixel.
 namespace controls {
 
@@ -27,5 +29,12 @@ inline QRect PixelRect(const TwipRect &r)
     const int x = Pixels(r.left), y = Pixels(r.top);
     return {x, y, Pixels(r.left + r.width) - x, Pixels(r.top + r.height) - y};
 }
+
+/// Puts a control at its place in its parent. The place is kept, so that PlaceOf gives back lengths
+/// that are no whole pixels.
+void Place(QWidget *control, const TwipRect &rect);
+/// The place of a control: as it was given to Place, or, when it was moved or sized since, its
+/// pixels.
+TwipRect PlaceOf(const QWidget *control);
 
 } // namespace controls

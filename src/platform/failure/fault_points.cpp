@@ -7,7 +7,8 @@
 #include <atomic>
 #include <mutex>
 
-namespace {
+namespace
+{
 
 std::atomic<bool> anyArmed{false};
 std::mutex armedMutex;

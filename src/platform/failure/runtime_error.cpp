@@ -2,10 +2,10 @@
 
 #include <array>
 
-namespace {
-
-struct Description
+namespace
 {
+
+struct Description {
     qint32 number;
     const char16_t *text;
 };
@@ -27,7 +27,8 @@ constexpr std::array kDescriptions{
     Description{RuntimeError::PermissionDenied, u"書き込みできません。"},
     Description{RuntimeError::PathNotFound, u"パスが見つかりません。"},
     Description{RuntimeError::ObjectNotSet, u"オブジェクト変数が設定されていません。"},
-    Description{RuntimeError::CannotOpenDatabase, u"データベースを開けません。ファイルがないか、使用中か、辞書データベースではありません。"},
+    Description{RuntimeError::CannotOpenDatabase,
+                u"データベースを開けません。ファイルがないか、使用中か、辞書データベースではありません。"},
     Description{RuntimeError::InvalidStatement, u"検索条件の書き方が正しくありません。"},
     Description{RuntimeError::ProviderError, u"フィールドの値が正しくないか、長すぎます。"},
     Description{RuntimeError::NoCurrentRow, u"現在のレコードがありません。"},

@@ -1,0 +1,238 @@
+#include "platform/browser/web_browser.h"
+#include "platform/controls/handler.h"
+#include "presentation/frmFind.h"
+#include "presentation/menu_table.h"
+#include "presentation/surface.h"
+#include "presentation/target_caption.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShowEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using controls::RunHandler;
+
+namespace
+{
+
+frmFind *theMainWindow = nullptr;
+
+/// The entries that have work to do; the others wait, disabled, for the dialogs they open.
+constexpr std::array kServedEntries{
+    u"mnuPageSettings", u"mnuPrint",       u"mnuPrintView",    u"mnuExit",
+    u"mnuCopy",         u"mnuSelectAll",   u"mnuFind",         u"mnuHideListBox",
+    u"mnuIncSrch",      u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase",
+};
+
+struct Accelerator {
+    const char16_t *entry;
+    QKeySequence keys;
+};
+
+} // namespace
+
+frmFind *MainWindow() { return theMainWindow; }
+
+void frmFind::ForgetMainWindow() { theMainWindow = nullptr; }
+
+frmFind::frmFind() : Form(QStringLiteral("frmFind"))
+{
+    theMainWindow = this;
+    setWindowTitle(QStringLiteral("Wordmere"));
+    m_menuBar = new QMenuBar(this);
+    m_surface = new Surface(*this);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setMenuBar(m_menuBar);
+    layout->addWidget(m_surface);
+    MakeMenus();
+    MakeControls();
+    MakePictures();
+    ConnectHandlers();
+}
+
+frmFind::~frmFind()
+{
+    if (theMainWindow == this)
+        ForgetMainWindow();
+}
+
+QAction *frmFind::Menu(const QString &name) const { return m_menus.value(name); }
+
+controls::Picture *frmFind::PictureOf(int number) const
+{
+    return m_pictures.at(static_cast<std::size_t>(number));
+}
+
+void frmFind::MakeMenus()
+{
+    QMenu *menu = nullptr;
+    for (const MenuRow &row : MenuTable()) {
+        QAction *action = nullptr;
+        if (row.kind == MenuRow::Kind::Menu) {
+            menu = new QMenu(row.caption, this);
+            action = menu->menuAction();
+            m_menuBar->addAction(action);
+        } else if (row.kind == MenuRow::Kind::Separator) {
+            action = menu->addSeparator();
+        } else {
+            action = menu->addAction(row.caption);
+            action->setCheckable(row.checkable);
+            action->setEnabled(std::find(kServedEntries.begin(), kServedEntries.end(), row.name) !=
+                               kServedEntries.end());
+            addAction(action);
+        }
+        action->setObjectName(row.name);
+        m_menus.insert(row.name, action);
+    }
+    m_popup = menu;
+    m_menuBar->removeAction(m_popup->menuAction());
+    m_popup->menuAction()->setVisible(false);
+
+    const Accelerator accelerators[] = {
+        {u"mnuCopy", QKeySequence::Copy},
+        {u"mnuSelectAll", QKeySequence::SelectAll},
+        {u"mnuPrint", QKeySequence::Print},
+        {u"mnuFind", QKeySequence::Find},
+        {u"mnuTopicSearch", QKeySequence(Qt::Key_F1)},
+        {u"mnuReflesh", QKeySequence(Qt::Key_F5)},
+        {u"mnuGoBack", QKeySequence(Qt::ALT | Qt::Key_Left)},
+        {u"mnuGoForward", QKeySequence(Qt::ALT | Qt::Key_Right)},
+    };
+    for (const Accelerator &accelerator : accelerators)
+        Menu(QString::fromUtf16(accelerator.entry))->setShortcut(accelerator.keys);
+}
+
+void frmFind::MakeControls()
+{
+    const auto named = [](auto *control, const QString &name) {
+        control->setObjectName(name);
+        return control;
+    };
+    Combo1 = named(new controls::ComboBox(m_surface), QStringLiteral("Combo1"));
+    Combo1->setAccessibleName(QStringLiteral("辞書"));
+    Label1 = named(new controls::ClickLabel(m_surface), QStringLiteral("Label1"));
+    Label1->setText(TargetCaption(TargetAll));
+    txtFind = named(new controls::TextBox(m_surface), QStringLiteral("txtFind"));
+    txtFind->setAccessibleName(QStringLiteral("検索語"));
+    Combo2 = named(new QComboBox(m_surface), QStringLiteral("Combo2"));
+    Combo2->setEditable(true);
+    Combo2->setEditText(QStringLiteral("http://"));
+    Combo2->setAccessibleName(QStringLiteral("アドレス"));
+    Combo2->hide();
+    List1 = named(new controls::ListBox(m_surface), QStringLiteral("List1"));
+    List1->setAccessibleName(QStringLiteral("見出し語"));
+    WebBrowser1 = named(new browser::WebBrowser(m_surface), QStringLiteral("WebBrowser1"));
+    WebBrowser1->setAccessibleName(QStringLiteral("内容"));
+    StatusBar1 = named(new controls::StatusBar(m_surface), QStringLiteral("StatusBar1"));
+    StatusBar1->setAccessibleName(QStringLiteral("状態"));
+}
+
+void frmFind::MakePictures()
+{
+    const auto make = [this](const QString &name, const QString &icon, const QString &toolTip) {
+        auto *picture = new controls::Picture(
+            QIcon(QStringLiteral(":/icons/") + icon + QStringLiteral(".svg")), m_surface);
+        picture->setObjectName(name);
+        picture->setToolTip(toolTip);
+        picture->setAccessibleName(toolTip);
+        return picture;
+    };
+    Picture0 = make(QStringLiteral("Picture0"), QStringLiteral("picture_0"), PictureToolTip(0));
+    Picture00 = make(QStringLiteral("Picture00"), QStringLiteral("picture_00"), StopToolTip());
+    Picture0->hide();
+    Picture00->hide();
+    m_pictures[0] = Picture0;
+    for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number)
+        m_pictures[static_cast<std::size_t>(number)] =
+            make(QStringLiteral("Picture%1").arg(number), QStringLiteral("picture_%1").arg(number),
+                 PictureToolTip(number));
+    for (const int number : {14, 15, 17, 18})
+        PictureOf(number)->hide();
+}
+
+void frmFind::Command(const QString &menu, void (frmFind::*handler)(), int picture)
+{
+    const auto run = [this, handler] { RunHandler([this, handler] { (this->*handler)(); }); };
+    if (QAction *action = Menu(menu))
+        connect(action, &QAction::triggered, this, run);
+    if (picture == 0)
+        return;
+    connect(PictureOf(picture), &controls::Picture::MouseDown, this, [this, run, picture] {
+        PressPicture(picture);
+        run();
+    });
+}
+
+void frmFind::ConnectHandlers()
+{
+    connect(txtFind, &controls::TextBox::Change, this, [this] { RunHandler([this] { txtFind_Change(); }); });
+    connect(txtFind, &controls::TextBox::KeyPress, this, [this](int character, bool *swallow) {
+        RunHandler([=, this] { txtFind_KeyPress(character, swallow); });
+    });
+    connect(txtFind, &controls::TextBox::DownPressed, this, [this] { RunHandler([this] { EnterList(); }); });
+    connect(List1, &controls::ListBox::Click, this, [this] { RunHandler([this] { List1_Click(); }); });
+    connect(List1, &controls::ListBox::KeyPress, this,
+            [this](int character) { RunHandler([=, this] { List1_KeyPress(character); }); });
+    connect(List1, &controls::ListBox::MouseMove, this,
+            [this](const QPoint &point) { RunHandler([=, this] { List1_MouseMove(point); }); });
+    connect(List1, &controls::ListBox::EdgeDragged, this,
+            [this] { RunHandler([this] { FitPaneToList(); }); });
+    connect(Combo1, &controls::ComboBox::Click, this, [this] { RunHandler([this] { Combo1_Click(); }); });
+    connect(Combo1, &controls::ComboBox::KeyPress, this, [this](int character, bool *swallow) {
+        RunHandler([=, this] { Combo1_KeyPress(character, swallow); });
+    });
+    connect(Label1, &controls::ClickLabel::Click, this, [this] { RunHandler([this] { Label1_Click(); }); });
+    connect(WebBrowser1, &browser::WebBrowser::StatusTextChange, this, [this] {
+        RunHandler([this] {
+            if (Shared.ListHidden == 0)
+                FitPaneToList();
+        });
+    });
+    connect(WebBrowser1, &browser::WebBrowser::TitleChange, this,
+            [this] { Combo2->setEditText(WebBrowser1->LocationURL()); });
+
+    Command(QStringLiteral("mnuSrchFromAll"), &frmFind::mnuSrchFromAll_Click);
+    Command(QStringLiteral("mnuSrchFromWord"), &frmFind::mnuSrchFromWord_Click);
+    Command(QStringLiteral("mnuSrchFromPhrase"), &frmFind::mnuSrchFromPhrase_Click);
+    Command(QStringLiteral("mnuIncSrch"), &frmFind::mnuIncSrch_Click, 1);
+    Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
+    Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
+    Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
+    Command(QStringLiteral("mnuSelectAll"), &frmFind::mnuSelectAll_Click);
+    Command(QStringLiteral("mnuFind"), &frmFind::mnuFind_Click, 13);
+    Command(QStringLiteral("mnuPrint"), &frmFind::mnuPrint_Click);
+    Command(QStringLiteral("mnuPrintView"), &frmFind::mnuPrintView_Click);
+    Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
+    Command(QString(), &frmFind::Picture12_MouseDown, 12);
+    Command(QString(), &frmFind::Picture19_MouseDown, 19);
+    Command(QString(), &frmFind::Picture20_MouseDown, 20);
+
+    constexpr std::array served{1, 11, 12, 13, 19, 20};
+    for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
+        constexpr int ornament = 21;
+        if (number == ornament) {
+            PictureOf(number)->setFocusPolicy(Qt::NoFocus);
+            continue;
+        }
+        PictureOf(number)->setEnabled(std::find(served.begin(), served.end(), number) != served.end());
+        connect(PictureOf(number), &controls::Picture::MouseMove, this, [this, number] {
+            FlatPicture(number);
+            RaisePicture(number);
+        });
+    }
+}
+
+void frmFind::showEvent(QShowEvent *event)
+{
+    Form::showEvent(event);
+    if (m_viewMade)
+        return;
+    m_viewMade = true;
+    txtFind->setFocus();
+    // The view comes once the window has been painted.
+    QTimer::singleShot(0, WebBrowser1, [this] { RunHandler([this] { WebBrowser1->CreateView(); }); });
+}

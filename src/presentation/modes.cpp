@@ -1,0 +1,163 @@
+#include "core/failure_handling.h"
+#include "core/pure/app_files.h"
+#include "core/shared_state.h"
+#include "platform/browser/web_browser.h"
+#include "platform/files/file_operations.h"
+#include "platform/text/fold.h"
+#include "platform/text/trim.h"
+#include "presentation/frmFind.h"
+#include "presentation/target_caption.h"
+
+#include <QAction>
+#include <array>
+
+namespace
+{
+
+/// The menus of the search modes by their numbers.
+constexpr std::array kModeMenus{u"mnuIncSrch",      u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
+                                u"mnuTxtInMeaning", u"mnuTxtInExample", u"mnuWildCard"};
+
+constexpr std::array kTargetMenus{u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase"};
+
+QString ResultStore() { return AppFilePath(QStringLiteral("ListData.dat")); }
+
+} // namespace
+
+void frmFind::CheckModeMenu(std::uint8_t mode)
+{
+    for (std::size_t i = 0; i < kModeMenus.size(); ++i)
+        Menu(QString::fromUtf16(kModeMenus[i]))->setChecked(i == mode);
+}
+
+void frmFind::SetIncrementalMode()
+{
+    ShowRecords([this] {
+        CheckModeMenu(ModeIncremental);
+        Shared.SearchMode = ModeIncremental;
+        setWindowTitle(QStringLiteral("Wordmere"));
+        ChangeWordEntryBoxSize(0);
+        List1->Clear();
+        ShowBlankPage();
+        const QString word = text::Trim(txtFind->Text());
+        txtFind->SetText(QString());
+        txtFind->SetText(word);
+        txtFind->setFocus();
+    });
+}
+
+void frmFind::mnuIncSrch_Click()
+{
+    for (const int number : {14, 15, 17, 18})
+        PictureOf(number)->hide();
+    for (const int number : {19, 20})
+        PictureOf(number)->setVisible(Shared.SearchTarget == TargetAll);
+    StatusBar1->SetSimpleText(QString());
+    files::DeleteIfThere(ResultStore());
+    txtFind->SetText(QString());
+    txtFind->setFocus();
+    SetIncrementalMode();
+}
+
+void frmFind::SetTarget(std::uint8_t target, const QString &caption)
+{
+    Shared.SearchTarget = target;
+    Label1->setText(caption);
+    for (std::size_t i = 0; i < kTargetMenus.size(); ++i) {
+        QAction *entry = Menu(QString::fromUtf16(kTargetMenus[i]));
+        entry->setChecked(i == target);
+        entry->setEnabled(true);
+    }
+    for (const int number : {19, 20})
+        PictureOf(number)->setVisible(target == TargetAll && Shared.SearchMode == ModeIncremental);
+}
+
+void frmFind::ChooseTarget(std::uint8_t target, const QString &caption)
+{
+    SetTarget(target, caption);
+    const QString word = text::Trim(txtFind->Text());
+    txtFind->SetText(QString());
+    txtFind->SetText(word);
+    txtFind->setFocus();
+    txtFind->CaretToEnd();
+}
+
+void frmFind::mnuSrchFromAll_Click() { ChooseTarget(TargetAll, TargetCaption(TargetAll)); }
+
+// The menu's captions have a half-width colon, the label's own cycle a full-width one.
+void frmFind::mnuSrchFromWord_Click() { ChooseTarget(TargetWords, QStringLiteral("単語:")); }
+void frmFind::mnuSrchFromPhrase_Click() { ChooseTarget(TargetPhrases, QStringLiteral("熟語:")); }
+
+void frmFind::Label1_Click()
+{
+    const std::uint8_t next = Shared.SearchTarget == TargetAll     ? TargetWords
+                              : Shared.SearchTarget == TargetWords ? TargetPhrases
+                                                                   : TargetAll;
+    ChooseTarget(next, TargetCaption(next));
+}
+
+void frmFind::Combo1_Click()
+{
+    if (Shared.Lexicons) {
+        QList<Lexicon> &lexicons = *Shared.Lexicons;
+        for (Lexicon &lexicon : lexicons)
+            lexicon.IsSelected = 0;
+        for (qsizetype slot = 0; slot + 1 < lexicons.size(); ++slot) {
+            Lexicon &lexicon = lexicons[slot];
+            if (lexicon.IsDeleted != 0 || !text::Same(lexicon.DicName, Combo1->Text()))
+                continue;
+            lexicon.IsSelected = -1;
+            Shared.CurrentDicName = lexicon.DicName;
+            Shared.CurrentDicPath = lexicon.DicPath;
+            break;
+        }
+    }
+    for (const int number : {14, 15, 17, 18})
+        PictureOf(number)->hide();
+    if (Shared.SearchMode != ModeIncremental)
+        files::DeleteIfThere(ResultStore());
+    CheckModeMenu(ModeIncremental);
+    Shared.SearchMode = ModeIncremental;
+    setWindowTitle(QStringLiteral("Wordmere"));
+    ChangeWordEntryBoxSize(0);
+    SetTarget(TargetAll, TargetCaption(TargetAll));
+    txtFind->SetText(QString());
+    StatusBar1->SetSimpleText(QString());
+    List1->Clear();
+    ShowBlankPage();
+}
+
+void frmFind::Combo1_KeyPress(int character, bool *swallow)
+{
+    *swallow = true;
+    constexpr int escape = 27;
+    if (character == escape)
+        ClearSearch();
+}
+
+void frmFind::ClearSearch()
+{
+    txtFind->SetText(QString());
+    List1->Clear();
+    ShowBlankPage();
+    StatusBar1->SetSimpleText(QStringLiteral("Ready"));
+    txtFind->setFocus();
+    if (Shared.SearchMode != ModeIncremental)
+        files::DeleteIfThere(ResultStore());
+}
+
+void frmFind::SetDictionaryView()
+{
+    Shared.ListHidden = 1;
+    ToggleHeadwordList();
+    ChangeWordEntryBoxSize(m_entryBoxKind);
+    txtFind->show();
+    Combo2->hide();
+    ApplySearchTarget();
+    for (const char16_t *name : {u"mnuGoBack", u"mnuGoForward", u"mnuGoHome", u"mnuCancel", u"mnuReflesh"})
+        Menu(QString::fromUtf16(name))->setEnabled(false);
+    for (int number = 22; number <= 27; ++number)
+        PictureOf(number)->hide();
+    PictureOf(9)->show();
+    PictureOf(12)->show();
+}

@@ -1,0 +1,44 @@
+#include "core/pure/app_files.h"
+#include "core/shared_state.h"
+#include "platform/browser/web_browser.h"
+#include "platform/files/file_operations.h"
+#include "platform/files/line_file.h"
+#include "platform/text/shift_jis.h"
+#include "presentation/frmFind.h"
+#include "presentation/page_file.h"
+#include "presentation/pure/entry_page.h"
+
+QString PagePath() { return AppFilePath(QStringLiteral("home.html")); }
+
+void WritePageHeader()
+{
+    files::LineWriter page(PagePath(), files::LineWriter::Mode::Output);
+    // The last line is the spare one.
+    for (qsizetype i = 0; i + 1 < Shared.HtmlHeaderLines.size(); ++i)
+        page.WriteLine(text::EncodePage(Shared.HtmlHeaderLines[i]));
+    page.Close();
+}
+
+void frmFind::WriteMessagePage(const QString &message)
+{
+    files::LineWriter page(PagePath(), files::LineWriter::Mode::Output);
+    for (const QString &line : MessagePageLines(message))
+        page.WriteLine(text::EncodePage(line));
+    page.Close();
+}
+
+void frmFind::NavigateHome() { WebBrowser1->Navigate(PagePath()); }
+
+void frmFind::ShowBlankPage()
+{
+    WriteMessagePage(QString());
+    NavigateHome();
+}
+
+void frmFind::CreateHTMLHeader()
+{
+    QByteArray content;
+    for (const QString &line : DefaultPageHeader())
+        content += text::EncodePage(line) + "\r\n";
+    files::Replace(AppFilePath(QStringLiteral("sscDefi.dat")), content);
+}
