@@ -34,8 +34,8 @@ QString files::HostPathOrEmpty(const QString &drivePath)
 {
     if (!IsOnRootDrive(drivePath))
         return {};
-    const QString path = drivePath.sliced(2);
-    return path.isEmpty() ? QStringLiteral("/") : QString(path).replace(u'\\', u'/');
+    QString path = drivePath.sliced(2);
+    return path.isEmpty() ? QStringLiteral("/") : path.replace(u'\\', u'/');
 }
 
 QString files::HostPath(const QString &drivePath)

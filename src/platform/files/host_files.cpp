@@ -139,8 +139,10 @@ void files::host::Raise(const QFileDevice &file, int error, const QString &path)
 
 bool files::host::IsFile(const QString &path)
 {
+    if (path.isEmpty() || path.contains(QChar::Null))
+        return false;
     const QFileInfo info(path);
-    return !path.isEmpty() && info.exists() && !info.isDir();
+    return info.exists() && !info.isDir();
 }
 
 void files::host::RequireWritable(const QString &path)
