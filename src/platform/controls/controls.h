@@ -5,7 +5,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
-namespace controls {
+namespace controls
+{
 
 /// A single-line text box. Change comes for typing and for every different text that the program
 /// sets; text that an input method still composes raises nothing.
@@ -19,7 +20,7 @@ public:
     /// Puts the caret behind the last character.
     void CaretToEnd();
 
-signals:
+Q_SIGNALS:
     void Change();
     /// A key pressed, outside of composition: 13 Enter, 27 Esc, 8 Backspace, else the character's
     /// code. Setting *swallow keeps it from the box.
@@ -30,6 +31,10 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+
+private:
+    bool m_composing = false;
 };
 
 /// A drop-down box. Not editable: its text is an item's, or one that the program set.
@@ -47,18 +52,19 @@ public:
     /// Shows the text, selecting the first item equal to it if there is one; raises no Click.
     void SetText(const QString &text);
 
-signals:
+Q_SIGNALS:
     /// An item was chosen, by the user or by Choose.
     void Click();
     void KeyPress(int character, bool *swallow);
 
-public slots:
+public Q_SLOTS:
     /// Chooses a row as the user would.
     void Choose(int row);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void initStyleOption(QStyleOptionComboBox *option) const override;
 
 private:
     QString m_freeText;
@@ -71,12 +77,13 @@ class ClickLabel : public QLabel
 public:
     explicit ClickLabel(QWidget *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     void Click();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };
 
 /// A toolbar picture: acts on mouse down. Its frame is drawn around it by the form's surface.
@@ -86,12 +93,13 @@ class Picture : public QWidget
 public:
     enum class Frame { Flat, Raised, Pressed };
 
-    Picture(const QIcon &icon, QWidget *parent = nullptr);
+    explicit Picture(const QIcon &icon, QWidget *parent = nullptr);
+    QSize sizeHint() const override;
     Frame CurrentFrame() const { return m_frame; }
     void SetFrame(Frame frame);
     void SetIcon(const QIcon &icon);
 
-signals:
+Q_SIGNALS:
     void MouseDown();
     void MouseMove();
 
@@ -100,6 +108,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     QIcon m_icon;
@@ -115,7 +124,13 @@ public:
     QString SimpleText() const { return m_text; }
     void SetSimpleText(const QString &text);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
 private:
+    void Elide();
+
     QString m_text;
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QPointer>
 #include <QWidget>
 
-namespace controls {
+namespace controls
+{
 
 /// Why a form is unloaded.
 enum class UnloadReason { Code, Frame, Exit };
@@ -24,7 +26,9 @@ public:
     /// Loads if need be, and shows the form; modal ones block every other window. Both return at once.
     void ShowForm();
     void ShowModal();
-    /// Asks Form_QueryUnload, then runs Form_Unload and goes. False when it was refused.
+    /// Asks Form_QueryUnload, then runs Form_Unload and goes. False when it was refused. A failure
+    /// in Form_QueryUnload refuses, so that what the user typed stays, except at the program's end;
+    /// one in Form_Unload does not hold the form up. Both go to the default handling.
     bool Unload(UnloadReason reason = UnloadReason::Code);
     bool IsLoaded() const { return m_loaded; }
 
@@ -36,12 +40,16 @@ public:
     /// Puts the form in the middle of its screen.
     void Centre();
 
+    /// The buttons that Enter and Esc press, where the control that has the focus leaves the key
+    /// alone. A button that has the focus takes Enter itself. Null: none.
+    void SetKeyButtons(QAbstractButton *enter, QAbstractButton *escape);
+
     /// The forms that are loaded, oldest first.
     static QList<Form *> Loaded();
     /// The loaded form of that name, or nullptr.
     static Form *Named(const QString &name);
 
-signals:
+Q_SIGNALS:
     void Unloaded();
 
 protected:
@@ -57,11 +65,19 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    bool IsUnloadRefused(UnloadReason reason);
+    void UndoLoad();
+    void Leave();
+
     bool m_loaded = false;
     bool m_unloading = false;
     bool m_takesInput = true;
+    QList<QPointer<Form>> m_disabledWhileLoading;
+    QPointer<QAbstractButton> m_enterButton;
+    QPointer<QAbstractButton> m_escapeButton;
 };
 
 } // namespace controls

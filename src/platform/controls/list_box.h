@@ -3,7 +3,8 @@
 #include <QListView>
 #include <QStringList>
 
-namespace controls {
+namespace controls
+{
 
 class ListBoxModel;
 
@@ -49,7 +50,7 @@ public:
     /// Lets the user drag the right edge; EdgeDragged tells the new width in pixels.
     void SetSizingFrame(bool on);
 
-signals:
+Q_SIGNALS:
     void Click();
     void DblClick();
     /// Character code of a key pressed: 27 Esc, 13 Enter, else the character's.
@@ -65,11 +66,22 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    bool EdgeEvent(QEvent *event);
+    void DragEdgeTo(int x);
+    void SelectQuietly(int row);
+    void PlaceGrip();
+    bool TakesUserInput() const;
+
     ListBoxModel *m_model;
+    QWidget *m_grip = nullptr;
     int m_itemHeight = 0;
     int m_extent = 0;
+    int m_dragOffset = 0;
+    int m_pressedRow = -1;
     bool m_sizingFrame = false;
     bool m_dragging = false;
     bool m_quiet = false;

@@ -3,7 +3,8 @@
 #include <QVariant>
 #include <QWidget>
 
-namespace {
+namespace
+{
 
 constexpr char kPlace[] = "twipPlace";
 

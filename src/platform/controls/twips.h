@@ -5,7 +5,8 @@
 class QWidget;
 
 /// Lengths on screen are twips, 1/1440 of an inch: 15 of them are one logical pixel.
-namespace controls {
+namespace controls
+{
 
 inline constexpr int kTwipsPerPixel = 15;
 
@@ -17,8 +18,7 @@ constexpr int Pixels(int twips)
 constexpr int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 
 /// A rectangle in twips.
-struct TwipRect
-{
+struct TwipRect {
     int left = 0, top = 0, width = 0, height = 0;
     bool operator==(const TwipRect &) const = default;
     int Right() const { return left + width; }

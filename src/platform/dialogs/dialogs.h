@@ -10,7 +10,8 @@
 class QWidget;
 
 /// Boxes that block: message, input, file, folder, font and colour.
-namespace dialogs {
+namespace dialogs
+{
 
 /// Style of a message box: buttons + icon + default button, added up.
 enum Style : int {
@@ -30,8 +31,7 @@ enum Style : int {
 enum Answer : int { OK = 1, Cancel = 2, Yes = 6, No = 7 };
 
 /// A font as the font box takes and gives it. The colour is 0x00BBGGRR.
-struct FontChoice
-{
+struct FontChoice {
     QString name;
     int size = 9; ///< points
     qint32 color = 0;
@@ -39,8 +39,7 @@ struct FontChoice
 };
 
 /// A box about to be shown. Each kind uses its own fields.
-struct Box
-{
+struct Box {
     enum class Kind { Message, Input, File, Folder, Font, Color };
     Kind kind = Kind::Message;
     QString title;
@@ -54,19 +53,18 @@ struct Box
     int filterIndex = 1;
     bool mustExist = false;
     bool createPrompt = false;
-    bool save = false;   ///< file box: a save box
-    QString folder;      ///< folder box: where it opens
-    FontChoice font;     ///< font box: what it opens with
-    qint32 color = 0;    ///< colour box: what it opens with, 0x00BBGGRR
+    bool save = false;            ///< file box: a save box
+    QString folder;               ///< folder box: where it opens
+    FontChoice font;              ///< font box: what it opens with
+    qint32 color = 0;             ///< colour box: what it opens with, 0x00BBGGRR
     bool defaultHandling = false; ///< the box of the default handling of failures
 };
 
 /// What came back. `accepted` is false for a box that was cancelled.
-struct Reply
-{
+struct Reply {
     bool accepted = false;
-    int answer = 0;  ///< message box
-    QString text;    ///< input box's text; path of a file or folder box, a drive path
+    int answer = 0; ///< message box
+    QString text;   ///< input box's text; path of a file or folder box, a drive path
     FontChoice font;
     qint32 color = 0;
 };

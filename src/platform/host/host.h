@@ -6,7 +6,8 @@
 #include <memory>
 
 /// What the program asks of the machine and of the desktop.
-namespace host {
+namespace host
+{
 
 /// One turn of the event loop: delivers what waits, painting included.
 void DoEvents();
@@ -25,7 +26,13 @@ void SetBeforeTurnHook(std::function<void()> hook);
 void Sleep(int milliseconds);
 
 /// Sounds of MessageBeep by their codes.
-enum Beep : int { BeepNone = 0, BeepCritical = 16, BeepQuestion = 32, BeepExclamation = 48, BeepInformation = 64 };
+enum Beep : int {
+    BeepNone = 0,
+    BeepCritical = 16,
+    BeepQuestion = 32,
+    BeepExclamation = 48,
+    BeepInformation = 64
+};
 /// Plays the desktop's sound of that code, silently nothing where there is none. Returns at once.
 void MessageBeep(int code);
 /// The code of the last beep since the last call of this function, 0 for none: the beep that
@@ -36,6 +43,15 @@ int TakePendingBeep();
 enum Pointer : int { PointerDefault = 0, PointerHourglass = 11 };
 void SetMousePointer(int pointer);
 int MousePointer();
+/// Shows the default pointer while it lives, over a box. MousePointer keeps telling the program's.
+class PointerAside
+{
+public:
+    PointerAside();
+    ~PointerAside();
+    PointerAside(const PointerAside &) = delete;
+    PointerAside &operator=(const PointerAside &) = delete;
+};
 
 /// Plain text of the clipboard; empty when it holds none. HasText tells the two apart.
 QString ClipboardText();
@@ -62,17 +78,17 @@ public:
 
 private:
     int m_file = -1;
+    bool m_heldElsewhere = false;
 };
 
 /// Facts of the machine for the version dialog.
-struct SystemFacts
-{
-    QString version;     ///< kernel or system version "major.minor"
-    QString build;       ///< build or release text
-    QString platform;    ///< platform id
-    int processor = 0;   ///< processor type (8664 for x86-64)
-    qint64 memory = 0;   ///< physical memory in bytes
-    int load = 0;        ///< memory in use, percent
+struct SystemFacts {
+    QString version;   ///< kernel or system version "major.minor"
+    QString build;     ///< build or release text
+    QString platform;  ///< platform id
+    int processor = 0; ///< processor type (8664 for x86-64)
+    qint64 memory = 0; ///< physical memory in bytes
+    int load = 0;      ///< memory in use, percent
 };
 SystemFacts Facts();
 /// Facts that stand in for the machine's; nullptr for the truth.

@@ -1,0 +1,73 @@
+#include "platform/controls/controls.h"
+
+#include "platform/controls/key_character.h"
+#include "platform/controls/white_base.h"
+
+#include <QInputMethodEvent>
+
+namespace controls
+{
+
+TextBox::TextBox(QWidget *parent) : QLineEdit(parent)
+{
+    UseWhiteBase(*this);
+    connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
+}
+
+void TextBox::SetText(const QString &value)
+{
+    if (value != text())
+        setText(value);
+}
+
+void TextBox::CaretToEnd()
+{
+    deselect();
+    end(false);
+}
+
+void TextBox::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    const int character = CharacterOf(*event);
+    if (m_composing) {
+        // These are the input method's, also where it hands them on.
+        if (character != 13 && character != 27 && key != Qt::Key_Down)
+            QLineEdit::keyPressEvent(event);
+        return;
+    }
+    if (character >= 0) {
+        bool swallow = false;
+        Q_EMIT KeyPress(character, &swallow);
+        if (swallow) {
+            event->accept();
+            return;
+        }
+    }
+    if (key == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier) == false) {
+        Q_EMIT DownPressed();
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    switch (event->reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+    case Qt::OtherFocusReason: selectAll(); break;
+    default: break;
+    }
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    m_composing = !event->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+}
+
+} // namespace controls
