@@ -8,7 +8,8 @@
 
 /// Text comparison that ignores case, width and kana type. One frozen table serves searches,
 /// catalogue names, LIKE patterns and the order of the index, so that they always agree.
-namespace text {
+namespace text
+{
 
 /// The version of the fold and of its weights. An index built under another one is built anew.
 inline constexpr int kFoldVersion = 1;
@@ -27,10 +28,16 @@ quint32 WeightOf(char32_t foldedCodePoint);
 /// 0 where the two are no such pair.
 char32_t VoicedPair(char32_t base, char32_t mark);
 
+/// The half-width katakana that gives the folded code point together with a mark behind it; 0 for
+/// none. It and FormsOf are the only ways to write a folded code point.
+char32_t HalfWidthBaseOf(char32_t foldedCodePoint);
+
+/// All code points with this folded form, itself first; empty where it is not a folded form.
+std::u32string FormsOf(char32_t foldedCodePoint);
+
 /// A text folded, with the way back: starts[i] is the position in the original, in UTF-16 units
 /// from 0, of the folded code point i; a last element holds the original's length.
-struct FoldedText
-{
+struct FoldedText {
     std::u32string folded;
     std::vector<qsizetype> starts;
 };
@@ -49,8 +56,7 @@ bool Same(QStringView left, QStringView right);
 
 /// Where a text was found: position from 1 in UTF-16 units, 0 when it was not, and the length of
 /// what matched in the text searched (it differs from the needle's for half-width voiced pairs).
-struct Match
-{
+struct Match {
     qsizetype position = 0;
     qsizetype length = 0;
 };

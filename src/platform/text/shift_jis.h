@@ -6,7 +6,8 @@
 #include <QStringView>
 
 /// Code page 932 (the Shift_JIS of Windows), through iconv's CP932.
-namespace text {
+namespace text
+{
 
 /// Text of the bytes; each undecodable byte becomes U+30FB.
 QString Decode(QByteArrayView bytes);

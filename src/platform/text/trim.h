@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringView>
 
-namespace text {
+namespace text
+{
 
 /// The text without blanks (U+0020, U+3000) at both ends, at its beginning, at its end.
 QString Trim(QStringView text);
