@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/data/session.h"
+
+#include <functional>
+
+namespace data
+{
+
+/// Does work that takes its time in statements of the session: the busy hook around it, the progress
+/// hook about every 50 ms within it. What the progress hook raises ends the work and is passed on.
+void DoLongWork(Session &session, const std::function<void()> &work);
+
+} // namespace data

@@ -1,0 +1,37 @@
+#include "platform/data/row_reader.h"
+
+namespace data
+{
+
+bool RowReader::Load(qint64 autoID)
+{
+    if (m_loaded && m_autoID == autoID && m_generation == m_session.Generation())
+        return true;
+    m_session.BeginRead();
+    if (!m_statement)
+        m_statement =
+            m_session.Prepare("SELECT Word, Pronunciation, WordPhrase, Description, Example, AutoID "
+                              "FROM Dictionary WHERE AutoID = ?1");
+    m_statement.Reset();
+    m_statement.BindNumber(1, autoID);
+    m_loaded = m_statement.Step();
+    m_autoID = autoID;
+    m_generation = m_session.Generation();
+    return m_loaded;
+}
+
+QVariant RowReader::Value(Column column) const
+{
+    if (m_statement.IsNull(column))
+        return {};
+    if (column == AutoID || column == WordPhrase)
+        return static_cast<int>(m_statement.Number(column));
+    return FromUtf8(m_statement.Text(column));
+}
+
+QString FromUtf8(std::string_view bytes)
+{
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+} // namespace data

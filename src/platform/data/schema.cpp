@@ -1,0 +1,121 @@
+#include "platform/data/schema.h"
+
+#include "platform/data/operation.h"
+#include "platform/text/fold.h"
+
+#include <sqlite3.h>
+#include <string>
+
+namespace data
+{
+
+namespace
+{
+
+constexpr std::string_view kColumns = "Word TEXT NOT NULL COLLATE WORDMERE, Pronunciation TEXT, "
+                                      "WordPhrase INTEGER, Description TEXT, Example TEXT";
+constexpr std::string_view kAutoIDColumn = ", AutoID INTEGER PRIMARY KEY AUTOINCREMENT";
+constexpr std::string_view kIndexSql = "CREATE UNIQUE INDEX WordID ON Dictionary(Word, AutoID, WordPhrase)";
+
+std::string TableSql(std::string_view name, bool withAutoID)
+{
+    std::string sql = "CREATE TABLE ";
+    sql.append(name).append("(").append(kColumns);
+    if (withAutoID)
+        sql.append(kAutoIDColumn);
+    return sql.append(")");
+}
+
+int CompareWords(void * /*unused*/, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return text::CompareUtf8({static_cast<const char *>(left), static_cast<std::size_t>(leftSize)},
+                             {static_cast<const char *>(right), static_cast<std::size_t>(rightSize)});
+}
+
+qint32 UserVersion() { return kFormatVersion << 16 | text::kFoldVersion; }
+
+/// The text with which an object was created; empty where there is none of that type and name.
+std::string SqlOf(Session &session, std::string_view type, std::string_view name)
+{
+    Prepared query =
+        session.Prepare("SELECT sql FROM sqlite_schema WHERE type = ?1 AND name = ?2 COLLATE NOCASE");
+    query.BindText(1, type);
+    query.BindText(2, name);
+    return query.Step() ? std::string(query.Text(0)) : std::string();
+}
+
+} // namespace
+
+QLatin1String ColumnName(Column column)
+{
+    static constexpr std::array names{"Word",        "Pronunciation", "WordPhrase",
+                                      "Description", "Example",       "AutoID"};
+    static_assert(names.size() == ColumnCount);
+    return QLatin1String(names.at(static_cast<std::size_t>(column)));
+}
+
+void RegisterCollation(sqlite3 *database)
+{
+    const int code =
+        sqlite3_create_collation_v2(database, "WORDMERE", SQLITE_UTF8, nullptr, CompareWords, nullptr);
+    if (code != SQLITE_OK)
+        RaiseCode(code);
+}
+
+void SetPageSize(Session &session) { session.Run("PRAGMA page_size = " + std::to_string(kPageSize)); }
+
+void WriteMarks(Session &session)
+{
+    session.Run("PRAGMA application_id = " + std::to_string(kApplicationId));
+    session.Run("PRAGMA user_version = " + std::to_string(UserVersion()));
+}
+
+void CreateTable(Session &session, bool withAutoID) { session.Run(TableSql(kTableName, withAutoID)); }
+
+void AddAutoID(Session &session)
+{
+    session.Run("ALTER TABLE Dictionary RENAME TO Numberless");
+    CreateTable(session, true);
+    session.Run(
+        "INSERT INTO Dictionary(Word, Pronunciation, WordPhrase, Description, Example) "
+        "SELECT Word, Pronunciation, WordPhrase, Description, Example FROM Numberless ORDER BY rowid");
+    session.Run("DROP TABLE Numberless");
+}
+
+void CreateIndex(Session &session)
+{
+    if (HasIndex(session))
+        return;
+    DropIndex(session);
+    CreateIndexObject(session);
+    WriteMarks(session);
+}
+
+void CreateIndexObject(Session &session) { session.Run(kIndexSql); }
+
+void DropIndex(Session &session) { session.Run("DROP INDEX IF EXISTS WordID"); }
+
+TableState StateOfTable(Session &session)
+{
+    const std::string sql = SqlOf(session, "table", kTableName);
+    if (sql.empty())
+        return TableState::None;
+    if (sql == TableSql(kTableName, true))
+        return TableState::Whole;
+    return sql == TableSql(kTableName, false) ? TableState::WithoutAutoID : TableState::Foreign;
+}
+
+bool HasIndex(Session &session)
+{
+    return session.NumberOf("PRAGMA user_version") == UserVersion() &&
+           SqlOf(session, "index", kIndexName) == kIndexSql;
+}
+
+void RequireMarks(Session &session)
+{
+    if (session.NumberOf("PRAGMA application_id") != kApplicationId ||
+        session.NumberOf("PRAGMA user_version") >> 16 != kFormatVersion)
+        RaiseCode(SQLITE_NOTADB);
+}
+
+} // namespace data
