@@ -12,7 +12,9 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     Program::PrepareApplication();
 
-    Program program({.shareFolder = share});
+    Program::Options options;
+    options.shareFolder = share;
+    Program program(options);
     // Queued, because the run may end before the event loop has begun.
     QObject::connect(&program, &Program::Ended, &application, &QApplication::quit, Qt::QueuedConnection);
     QTimer::singleShot(0, &program, &Program::Start);
