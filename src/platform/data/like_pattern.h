@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-namespace data {
+namespace data
+{
 
 /// A LIKE pattern, compiled once for a statement: `%` any run, `_` one code point, `[abc]`, `[a-z]`,
 /// `[!a]`, `[^a]` one code point in (not in) a class; `[%]`, `[_]`, `[[]` stand for themselves. Text

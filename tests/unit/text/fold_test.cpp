@@ -69,7 +69,7 @@ TEST(Fold, GivesEveryFoldedCodePointAWeightOfItsOwn)
 TEST(Fold, OrdersSymbolsDigitsLettersKanaKanjiAndTheRest)
 {
     constexpr QStringView kInOrder[] = {
-        u"\t", u" ",  u"!",  u"'",  u"-",  u"~",  u"、",     u"Ⅰ",      u"①",          u"0",
+        u"\t", u" ",  u"!",  u"'",  u"-",  u"~",  u"、",     u"①",      u"Ⅰ",          u"0",
         u"9",  u"a",  u"é",  u"ｆ", u"z",  u"α",  u"я",      u"ー",     u"ァ",         u"あ",
         u"ｲ",  u"ヵ", u"か", u"ガ", u"き", u"っ", u"ツ",     u"は",     u"ば",         u"ぱ",
         u"ひ", u"ん", u"亜", u"腕", u"弌", u"熙", u"\u3402", u"\uAC00", u"\U0001F600",
