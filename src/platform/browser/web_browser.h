@@ -5,7 +5,8 @@
 #include <functional>
 #include <memory>
 
-namespace browser {
+namespace browser
+{
 
 /// Commands of ExecWB.
 enum Command : int { Print = 6, PrintPreview = 7, PageSetup = 8, Copy = 12, SelectAll = 17 };
@@ -19,6 +20,7 @@ Backend CurrentBackend();
 /// To be called before the application object is made: sandbox, backend and flags of the engine.
 void PrepareProcess();
 
+class FindBar;
 class Pane;
 
 /// The pane. Pages of the application folder are shown without script and without any access
@@ -36,11 +38,15 @@ public:
 
     /// Shows the page at a drive path or a web address. Returns at once.
     void Navigate(const QString &address);
+    /// Back and forward do nothing where there is no page in that direction.
     void GoBack();
     void GoForward();
+    /// Shows the page that was shown first.
     void GoHome();
     void Stop();
     void Refresh();
+    /// Where the pane is: a drive path or a web address, as Navigate takes it; empty before the
+    /// first page.
     QString LocationURL() const;
     QString LocationName() const;
 
@@ -59,16 +65,25 @@ public:
     QString ShownText() const;
     bool IsLoading() const;
 
-signals:
+Q_SIGNALS:
     void StatusTextChange(const QString &text);
     void TitleChange(const QString &text);
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
+    void Open(const QString &address);
+    void Find(const QString &text, bool backward);
+    void CloseFindBar();
+
     std::unique_ptr<Pane> m_pane;
     QStringList m_navigations;
     QList<int> m_commands;
     QString m_waiting;
-    friend class Pane;
+    QString m_home;
+    FindBar *m_findBar = nullptr;
 };
 
 } // namespace browser

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+
+namespace browser
+{
+
+/// The page of the engine's pane, and what it may do: a page of the program shows itself and
+/// nothing else; a web page keeps its script and links.
+class EnginePage : public QWebEnginePage
+{
+    Q_OBJECT
+public:
+    EnginePage(QWebEngineProfile *profile, QObject *parent);
+
+Q_SIGNALS:
+    /// The page about to be shown, or shown, is one from the web.
+    void WebPageChanged(bool isWeb);
+
+protected:
+    bool acceptNavigationRequest(const QUrl &target, NavigationType type, bool isMainFrame) override;
+
+private:
+    void ApplySettings(const QUrl &shown);
+
+    bool m_webIsComing = false;
+};
+
+/// A profile that keeps nothing, with the fonts of a Japanese desktop.
+QWebEngineProfile *MakeProfile(QObject *parent);
+
+} // namespace browser

@@ -1,0 +1,285 @@
+#include "platform/browser/engine_pane.h"
+
+#include "platform/browser/engine_page.h"
+#include "platform/failure/runtime_error.h"
+
+#include <QApplication>
+#include <QChildEvent>
+#include <QEventLoop>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinterInfo>
+#include <QScopedValueRollback>
+#include <QWebEngineFindTextResult>
+#include <QWebEngineHistory>
+#include <QWebEngineView>
+#include <optional>
+
+namespace browser
+{
+
+namespace
+{
+
+constexpr int kLongestPrint = 120'000;
+constexpr int kLongestWaitForText = 10'000;
+constexpr int kLongestWaitForStart = 1'000;
+constexpr int kPrintResolution = 300;
+
+/// An answer that comes later, waited for with the event loop running.
+template <typename Value> class LateAnswer
+{
+public:
+    /// What takes the answer; it may come after the waiting was given up.
+    auto Taker() const
+    {
+        return [state = m_state](const Value &value) {
+            state->value = value;
+            if (state->loop)
+                state->loop->quit();
+        };
+    }
+    std::optional<Value> Wait(int milliseconds,
+                              QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents) const
+    {
+        if (!m_state->value) {
+            QEventLoop loop;
+            m_state->loop = &loop;
+            QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+            loop.exec(flags);
+            m_state->loop = nullptr;
+        }
+        return m_state->value;
+    }
+
+private:
+    struct State {
+        std::optional<Value> value;
+        QEventLoop *loop = nullptr;
+    };
+    std::shared_ptr<State> m_state = std::make_shared<State>();
+};
+
+/// Dialogs on this platform can be answered by nobody.
+bool NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
+
+void RaiseUnless(bool succeeded)
+{
+    if (!succeeded)
+        throw RuntimeError(RuntimeError::CannotOpenDatabase, RuntimeError::defaultSource(),
+                           QStringLiteral("印刷できません。"));
+}
+
+} // namespace
+
+EnginePane::EnginePane(QWidget *parent)
+    : m_profile(MakeProfile(nullptr)), m_page(new EnginePage(m_profile, nullptr)),
+      m_view(new QWebEngineView(parent))
+{
+    m_view->setAcceptDrops(false);
+    m_view->installEventFilter(this);
+    m_view->setPage(m_page);
+    const QObjectList children = m_view->children();
+    for (QObject *child : children)
+        child->installEventFilter(this);
+    m_startTimeout.setSingleShot(true);
+    m_startTimeout.setInterval(kLongestWaitForStart);
+    ConnectPage();
+}
+
+EnginePane::~EnginePane()
+{
+    // In this order: a view uses its page, a page its profile.
+    delete m_view.data();
+    delete m_page;
+    delete m_profile;
+}
+
+void EnginePane::ConnectPage()
+{
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    connect(m_page, &EnginePage::WebPageChanged, m_view, [this](bool isWeb) {
+        m_view->setContextMenuPolicy(isWeb ? Qt::DefaultContextMenu : Qt::NoContextMenu);
+    });
+    connect(m_page, &QWebEnginePage::titleChanged, this, &Pane::TitleChanged);
+    connect(m_page, &QWebEnginePage::urlChanged, this, [this] { Q_EMIT TitleChanged(Title()); });
+    connect(m_page, &QWebEnginePage::linkHovered, this, &Pane::StatusChanged);
+    connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
+        m_awaitsStart = false;
+        m_loading = true;
+        Q_EMIT StatusChanged(QStringLiteral("ページを開いています..."));
+    });
+    connect(m_page, &QWebEnginePage::loadFinished, this, [this] {
+        // The end of a load that another one has superseded says nothing about that one.
+        if (!m_awaitsStart)
+            m_loading = m_page->isLoading();
+        Q_EMIT StatusChanged(QStringLiteral("ページが表示されました"));
+    });
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this,
+            [this](QWebEnginePage::RenderProcessTerminationStatus status) {
+                if (status != QWebEnginePage::NormalTerminationStatus)
+                    QTimer::singleShot(0, this, &EnginePane::ReviveAfterCrash);
+            });
+    // Some loads never start: to a place in the page that is shown, or stopped at once.
+    connect(&m_startTimeout, &QTimer::timeout, this, [this] {
+        m_awaitsStart = false;
+        m_loading = m_page->isLoading();
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && m_view && now != m_view && !m_view->isAncestorOf(now))
+            m_focusElsewhere = now;
+    });
+}
+
+void EnginePane::ReviveAfterCrash()
+{
+    constexpr qint64 shortestTimeBetweenCrashes = 10'000;
+    m_loading = false;
+    const bool crashesAgain = m_sinceCrash.isValid() && m_sinceCrash.elapsed() < shortestTimeBetweenCrashes;
+    m_sinceCrash.start();
+    if (!crashesAgain)
+        Reload();
+}
+
+QWidget *EnginePane::View() { return m_view; }
+
+void EnginePane::Open(const QUrl &url)
+{
+    m_awaitsStart = true;
+    m_loading = true;
+    m_startTimeout.start();
+    m_page->load(url);
+}
+
+void EnginePane::Back()
+{
+    if (m_page->history()->canGoBack())
+        m_page->triggerAction(QWebEnginePage::Back);
+}
+
+void EnginePane::Forward()
+{
+    if (m_page->history()->canGoForward())
+        m_page->triggerAction(QWebEnginePage::Forward);
+}
+
+void EnginePane::Stop() { m_page->triggerAction(QWebEnginePage::Stop); }
+
+void EnginePane::Reload() { m_page->triggerAction(QWebEnginePage::Reload); }
+
+QUrl EnginePane::Url() const { return m_page->url(); }
+
+QString EnginePane::Title() const { return m_page->title(); }
+
+QString EnginePane::SelectedText() const { return m_page->selectedText(); }
+
+void EnginePane::SelectAll() { m_page->triggerAction(QWebEnginePage::SelectAll); }
+
+QString EnginePane::ShownText() const
+{
+    const LateAnswer<QString> answer;
+    m_page->toPlainText(answer.Taker());
+    return answer.Wait(kLongestWaitForText).value_or(QString());
+}
+
+void EnginePane::TakeFocus()
+{
+    const QScopedValueRollback granted(m_focusGranted, true);
+    m_view->setFocus(Qt::OtherFocusReason);
+}
+
+bool EnginePane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ChildAdded)
+        static_cast<QChildEvent *>(event)->child()->installEventFilter(this);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
+        Q_EMIT FindAsked();
+        return true;
+    }
+    if (event->type() == QEvent::FocusIn && IsFocusStolen(*event)) {
+        // This reason leaves the selection of a text box as it was.
+        m_focusElsewhere->setFocus(Qt::ActiveWindowFocusReason);
+        return true;
+    }
+    return Pane::eventFilter(watched, event);
+}
+
+bool EnginePane::IsFocusStolen(const QEvent &event) const
+{
+    // The user's ways to the pane bear other reasons; what is left is a page that asks for the focus.
+    const bool isUnexplained = static_cast<const QFocusEvent &>(event).reason() == Qt::OtherFocusReason;
+    return isUnexplained && !m_focusGranted && m_focusElsewhere && m_focusElsewhere->isVisible() &&
+           m_focusElsewhere->window() == m_view->window();
+}
+
+void EnginePane::Find(const QString &text, bool backward, const std::function<void(int, int)> &found)
+{
+    m_page->findText(text, backward ? QWebEnginePage::FindBackward : QWebEnginePage::FindFlags(),
+                     [found](const QWebEngineFindTextResult &result) {
+                         found(result.activeMatch(), result.numberOfMatches());
+                     });
+}
+
+QPrinter &EnginePane::Printer()
+{
+    if (!m_printer) {
+        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        if (QPrinterInfo::availablePrinterNames().isEmpty())
+            m_printer->setOutputFormat(QPrinter::PdfFormat);
+        m_printer->setResolution(kPrintResolution);
+        m_printer->setPageSize(QPageSize(QPageSize::A4));
+    }
+    return *m_printer;
+}
+
+bool EnginePane::PrintTo(QPrinter &printer)
+{
+    const LateAnswer<bool> answer;
+    QObject receiver;
+    if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
+        connect(m_page, &QWebEnginePage::pdfPrintingFinished, &receiver,
+                [taker = answer.Taker()](const QString &, bool succeeded) { taker(succeeded); });
+        m_page->printToPdf(printer.outputFileName(), printer.pageLayout());
+    } else {
+        connect(m_view, &QWebEngineView::printFinished, &receiver, answer.Taker());
+        m_view->print(&printer);
+    }
+    return answer.Wait(kLongestPrint, QEventLoop::ExcludeUserInputEvents).value_or(false);
+}
+
+void EnginePane::Print()
+{
+    if (NobodyIsThere())
+        return;
+    QPrintDialog dialog(&Printer(), m_view);
+    dialog.setWindowTitle(QStringLiteral("印刷"));
+    if (dialog.exec() == QDialog::Accepted)
+        RaiseUnless(PrintTo(Printer()));
+}
+
+void EnginePane::PreviewPrint()
+{
+    if (NobodyIsThere())
+        return;
+    bool succeeded = true;
+    QPrintPreviewDialog dialog(&Printer(), m_view);
+    dialog.setWindowTitle(QStringLiteral("印刷プレビュー"));
+    connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
+            [this, &succeeded](QPrinter *printer) { succeeded = PrintTo(*printer) && succeeded; });
+    dialog.exec();
+    RaiseUnless(succeeded);
+}
+
+void EnginePane::SetUpPage()
+{
+    if (NobodyIsThere())
+        return;
+    QPageSetupDialog dialog(&Printer(), m_view);
+    dialog.setWindowTitle(QStringLiteral("ページ設定"));
+    dialog.exec();
+}
+
+} // namespace browser

@@ -1,0 +1,370 @@
+#include "platform/browser/web_browser.h"
+
+#include "input.h"
+#include "platform/browser/address.h"
+#include "platform/browser/engine_pane.h"
+#include "platform/controls/controls.h"
+#include "platform/failure/fault_points.h"
+#include "platform/failure/runtime_error.h"
+#include "platform/files/drive_path.h"
+#include "platform/host/host.h"
+#include "platform/text/shift_jis.h"
+
+#include <QFile>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+#include <QWebEngineView>
+#include <gtest/gtest.h>
+
+using namespace browser;
+
+namespace
+{
+
+/// A web server that answers every request with one page, and counts the connections.
+class Server : public QTcpServer
+{
+public:
+    QByteArray body = "<title>web</title><p>web page</p>";
+    int connections = 0;
+    QStringList paths;
+
+    Server()
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *socket = nextPendingConnection();
+            ++connections;
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                paths.append(QString::fromLatin1(socket->readAll().split(' ').value(1)));
+                socket->write(
+                    "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+                    QByteArray::number(body.size()) + "\r\n\r\n" + body);
+                socket->disconnectFromHost();
+            });
+        });
+    }
+    QString Address() const { return QStringLiteral("http://127.0.0.1:%1/").arg(serverPort()); }
+};
+
+class BrowserTest : public testing::TestWithParam<Backend>
+{
+protected:
+    BrowserTest()
+    {
+        SetBackend(GetParam());
+        pane = new WebBrowser(&window);
+        edit = new controls::TextBox(&window);
+        auto *rows = new QVBoxLayout(&window);
+        rows->addWidget(edit);
+        rows->addWidget(pane);
+        window.resize(500, 400);
+        window.show();
+        QObject::connect(pane, &WebBrowser::TitleChange, pane, [this] { ++titles; });
+        QObject::connect(pane, &WebBrowser::StatusTextChange, pane,
+                         [this](const QString &text) { status = text; });
+    }
+    ~BrowserTest() override { SetBackend(Backend::Engine); }
+
+    QString Write(const QString &name, const QString &html) const
+    {
+        const QString path = folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text::EncodePage(html));
+        return files::DrivePath(path);
+    }
+    bool Settles() const
+    {
+        return input::Until([this] { return !pane->IsLoading(); });
+    }
+    bool Shows(const QString &wanted) const
+    {
+        return input::Until([&] { return pane->ShownText().contains(wanted); });
+    }
+
+    QTemporaryDir folder;
+    QWidget window;
+    WebBrowser *pane = nullptr;
+    controls::TextBox *edit = nullptr;
+    int titles = 0;
+    QString status;
+};
+
+TEST_P(BrowserTest, ShowsAShiftJisPageOnceItHasAView)
+{
+    const QString page = Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<html><head><title>題</title></head><body>見出し語 ～ dictionary</body></html>"));
+    pane->Navigate(page);
+    EXPECT_EQ(pane->ShownText(), QString());
+    EXPECT_FALSE(pane->IsLoading());
+    pane->CreateView();
+    EXPECT_TRUE(Shows(QStringLiteral("見出し語 ～ dictionary")));
+    EXPECT_TRUE(Settles());
+    EXPECT_EQ(pane->TakeNavigations(), QStringList{page});
+    EXPECT_TRUE(pane->TakeNavigations().isEmpty());
+    EXPECT_EQ(pane->LocationURL(), page);
+    EXPECT_TRUE(input::Until([this] { return pane->LocationName() == QStringLiteral("題"); }));
+    EXPECT_GT(titles, 0);
+}
+
+TEST_P(BrowserTest, TheSamePageIsReadAgainWithoutHistory)
+{
+    pane->CreateView();
+    for (int i = 0; i < 5; ++i)
+        pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>version %1</p>").arg(i)));
+    EXPECT_TRUE(Shows(QStringLiteral("version 4")));
+    EXPECT_TRUE(Settles());
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("version 4"));
+    pane->GoBack();
+    EXPECT_TRUE(Settles());
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("version 4"));
+}
+
+TEST_P(BrowserTest, GoesBackForwardAndHome)
+{
+    pane->CreateView();
+    const QString first = Write(QStringLiteral("a.html"), QStringLiteral("<p>first</p>"));
+    const QString second = Write(QStringLiteral("b.html"), QStringLiteral("<p>second</p>"));
+    pane->GoHome();
+    pane->Navigate(first);
+    ASSERT_TRUE(Shows(QStringLiteral("first")));
+    pane->Navigate(second);
+    ASSERT_TRUE(Shows(QStringLiteral("second")));
+    pane->GoBack();
+    EXPECT_TRUE(Shows(QStringLiteral("first")));
+    pane->GoForward();
+    EXPECT_TRUE(Shows(QStringLiteral("second")));
+    pane->GoHome();
+    EXPECT_TRUE(Shows(QStringLiteral("first")));
+    Write(QStringLiteral("a.html"), QStringLiteral("<p>changed</p>"));
+    pane->Refresh();
+    EXPECT_TRUE(Shows(QStringLiteral("changed")));
+    pane->Stop();
+    EXPECT_TRUE(Settles());
+}
+
+TEST_P(BrowserTest, WhatIsMissingChangesNothing)
+{
+    pane->CreateView();
+    const QString page = Write(QStringLiteral("home.html"), QStringLiteral("<p>stays</p>"));
+    pane->Navigate(page);
+    ASSERT_TRUE(Shows(QStringLiteral("stays")));
+    for (const QString &address :
+         {QStringLiteral("Z:\\no\\such\\page.html"), QStringLiteral("Q:\\page.html"), QString(),
+          QStringLiteral("http://"), QStringLiteral("javascript:alert(1)"),
+          QStringLiteral("data:text/html,x")}) {
+        status.clear();
+        pane->Navigate(address);
+        EXPECT_EQ(status, QStringLiteral("ページが見つかりません")) << address;
+    }
+    EXPECT_FALSE(pane->IsLoading());
+    EXPECT_EQ(pane->LocationURL(), page);
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("stays"));
+}
+
+TEST_P(BrowserTest, CopiesTheSelectionAndNothingWhenThereIsNone)
+{
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>copied</p>")));
+    ASSERT_TRUE(Shows(QStringLiteral("copied")));
+    host::SetClipboardText(QStringLiteral("before"));
+    pane->ExecWB(Copy);
+    EXPECT_EQ(host::ClipboardText(), QStringLiteral("before"));
+    pane->ExecWB(SelectAll);
+    EXPECT_TRUE(input::Until([this] { return !pane->SelectedText().isEmpty(); }));
+    pane->ExecWB(Copy, 0);
+    EXPECT_EQ(host::ClipboardText().trimmed(), QStringLiteral("copied"));
+    EXPECT_EQ(pane->TakeCommands(), (QList<int>{12, 17, 12}));
+}
+
+TEST_P(BrowserTest, FailingCommandsRaise)
+{
+    EXPECT_THROW(pane->ExecWB(Print), RuntimeError);
+    pane->CreateView();
+    EXPECT_THROW(pane->ExecWB(99), RuntimeError);
+    faults::FailNext(QStringLiteral("ExecWB"), RuntimeError::CannotOpenDatabase);
+    try {
+        pane->ExecWB(PrintPreview);
+        FAIL() << "the failure must be raised";
+    } catch (const RuntimeError &failure) {
+        EXPECT_EQ(failure.number(), RuntimeError::CannotOpenDatabase);
+    }
+    pane->ExecWB(PrintPreview);
+    EXPECT_EQ(pane->TakeCommands(), (QList<int>{6, 99, 7, 7}));
+}
+
+TEST_P(BrowserTest, FindBarFindsAndCounts)
+{
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>cat dog cat bird cat</p>")));
+    ASSERT_TRUE(Shows(QStringLiteral("bird")));
+    input::Key(*pane, Qt::Key_F, QStringLiteral("\x06"), Qt::ControlModifier);
+    auto *box = pane->findChild<controls::TextBox *>();
+    ASSERT_NE(box, nullptr);
+    ASSERT_TRUE(box->isVisible());
+    box->SetText(QStringLiteral("cat"));
+    const auto counts = [this](const QString &wanted) {
+        const QList<QLabel *> labels = pane->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](const QLabel *label) { return label->text() == wanted; });
+    };
+    EXPECT_TRUE(input::Until([&] { return counts(QStringLiteral("1 / 3 件")); }));
+    input::Key(*box, Qt::Key_Return, QStringLiteral("\r"));
+    EXPECT_TRUE(input::Until([&] { return counts(QStringLiteral("2 / 3 件")); }));
+    box->SetText(QStringLiteral("horse"));
+    EXPECT_TRUE(input::Until([&] { return counts(QStringLiteral("見つかりません")); }));
+    input::Key(*box, Qt::Key_Escape, QStringLiteral("\x1b"));
+    EXPECT_FALSE(box->isVisible());
+}
+
+TEST_P(BrowserTest, MarkupOfALocalPageReachesNothing)
+{
+    Server server;
+    const QString reach = server.Address();
+    const QString other = QUrl::fromLocalFile(folder.filePath(QStringLiteral("other.html"))).toString();
+    Write(QStringLiteral("other.html"), QStringLiteral("<p>other</p>"));
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<html><head><link rel=preconnect href='%1'><link rel=dns-prefetch href='%1'>"
+                       "<link rel=stylesheet href='%1s.css'><link rel=prefetch href='%1p'>"
+                       "<meta http-equiv=refresh content='0;url=%1r'></head>"
+                       "<body onload='document.body.innerHTML=\"hacked\"'><p id=t>entry</p>"
+                       "<script>document.getElementById('t').textContent='hacked'; fetch('%1f');</script>"
+                       "<img src='%1i.png' onerror='document.title=\"hacked\"'>"
+                       "<iframe src='%1i'></iframe><iframe src='%2'></iframe><object data='%1o'></object>"
+                       "<video src='%1v' autoplay></video></body></html>")
+            .arg(reach, other)));
+    ASSERT_TRUE(Shows(QStringLiteral("entry")));
+    host::Sleep(700);
+    EXPECT_TRUE(pane->ShownText().contains(QStringLiteral("entry")));
+    EXPECT_FALSE(pane->ShownText().contains(QStringLiteral("hacked")));
+    EXPECT_NE(pane->LocationName(), QStringLiteral("hacked"));
+    EXPECT_TRUE(pane->LocationURL().endsWith(QStringLiteral("home.html")));
+    EXPECT_EQ(server.connections, 0) << server.paths.join(QLatin1Char(' '));
+}
+
+INSTANTIATE_TEST_SUITE_P(Panes, BrowserTest, testing::Values(Backend::Engine, Backend::Recording),
+                         [](const auto &instance) {
+                             return instance.param == Backend::Engine ? std::string("Engine")
+                                                                      : std::string("Recording");
+                         });
+
+class EngineTest : public BrowserTest
+{
+};
+
+TEST_P(EngineTest, WebPagesKeepTheirScriptAndLocalPagesStayWithout)
+{
+    Server server;
+    server.body =
+        "<title>web</title><p id=t>plain</p><script>document.getElementById('t').textContent='scripted'"
+        "</script>";
+    const QString local =
+        Write(QStringLiteral("home.html"),
+              QStringLiteral("<p id=t>quiet</p><script>document.getElementById('t').textContent="
+                             "'scripted'</script>"));
+    pane->CreateView();
+    pane->Navigate(local);
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    pane->Navigate(server.Address());
+    EXPECT_TRUE(Shows(QStringLiteral("scripted")));
+    EXPECT_EQ(pane->LocationURL(), server.Address());
+    pane->GoBack();
+    EXPECT_TRUE(Shows(QStringLiteral("quiet")));
+    pane->GoForward();
+    EXPECT_TRUE(Shows(QStringLiteral("scripted")));
+    pane->Navigate(local);
+    EXPECT_TRUE(Shows(QStringLiteral("quiet")));
+    auto *view = pane->findChild<QWebEngineView *>();
+    EXPECT_EQ(view->contextMenuPolicy(), Qt::NoContextMenu);
+}
+
+TEST_P(EngineTest, HandlersInMarkupStayOffWhileAWebPageComes)
+{
+    Server silent;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<style>@keyframes k{from{opacity:.9}to{opacity:1}}#t{animation:k 20ms infinite}"
+                       "</style><p id=t onanimationiteration='this.textContent=\"hacked\"'>quiet</p>")));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(600);
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("quiet"));
+    pane->Stop();
+    EXPECT_TRUE(Settles());
+}
+
+TEST_P(EngineTest, APageDoesNotTakeTheFocus)
+{
+    Server server;
+    server.body =
+        "<p>web page</p><input autofocus><script>window.focus(); document.querySelector('input').focus()"
+        "</script>";
+    pane->CreateView();
+    window.activateWindow();
+    edit->setFocus();
+    edit->SetText(QStringLiteral("abc"));
+    edit->CaretToEnd();
+    ASSERT_TRUE(input::Until([this] { return edit->hasFocus(); }));
+    pane->Navigate(server.Address());
+    ASSERT_TRUE(Shows(QStringLiteral("web page")));
+    host::Sleep(200);
+    EXPECT_TRUE(edit->hasFocus());
+    EXPECT_FALSE(edit->hasSelectedText());
+    pane->setFocus();
+    EXPECT_FALSE(edit->hasFocus());
+}
+
+TEST_P(EngineTest, PrintsToAFileAndSaysWhenItCannot)
+{
+    EnginePane engine(&window);
+    engine.Open(QUrl::fromLocalFile(
+        files::HostPath(Write(QStringLiteral("home.html"), QStringLiteral("<p>印刷</p>")))));
+    ASSERT_TRUE(input::Until([&] { return engine.ShownText().contains(QStringLiteral("印刷")); }));
+    ASSERT_TRUE(input::Until([&] { return !engine.IsLoading(); }));
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(QStringLiteral("out.pdf")));
+    EXPECT_TRUE(engine.PrintTo(printer));
+    EXPECT_GT(QFile(folder.filePath(QStringLiteral("out.pdf"))).size(), 500);
+    printer.setOutputFileName(folder.filePath(QStringLiteral("no/such/folder/out.pdf")));
+    EXPECT_FALSE(engine.PrintTo(printer));
+}
+
+TEST_P(EngineTest, ANewWindowOfAWebPageIsShownInThePane)
+{
+    Server server;
+    server.body =
+        "<p>web page</p><a id=a target=_blank href='/second'>link</a><script>if (location.pathname == '/')"
+        "document.getElementById('a').click()</script>";
+    pane->CreateView();
+    pane->Navigate(server.Address());
+    EXPECT_TRUE(input::Until([&] { return server.paths.contains(QStringLiteral("/second")); }));
+    EXPECT_TRUE(input::Until([&] { return pane->LocationURL().endsWith(QStringLiteral("second")); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Pane, EngineTest, testing::Values(Backend::Engine));
+
+TEST(Address, IsUnderstoodAsTyped)
+{
+    EXPECT_EQ(UrlOf(QStringLiteral("Z:\\tmp\\a b.html")),
+              QUrl::fromLocalFile(QStringLiteral("/tmp/a b.html")));
+    EXPECT_EQ(UrlOf(QStringLiteral("/tmp/a.html")), QUrl::fromLocalFile(QStringLiteral("/tmp/a.html")));
+    EXPECT_EQ(UrlOf(QStringLiteral(" example.com ")), QUrl(QStringLiteral("http://example.com")));
+    EXPECT_EQ(UrlOf(QStringLiteral("https://example.com/x?q=1")),
+              QUrl(QStringLiteral("https://example.com/x?q=1")));
+    EXPECT_EQ(AddressOf(UrlOf(QStringLiteral("Z:\\tmp\\a b.html"))), QStringLiteral("Z:\\tmp\\a b.html"));
+    EXPECT_EQ(AddressOf(QUrl(QStringLiteral("http://example.com/"))), QStringLiteral("http://example.com/"));
+    EXPECT_EQ(AddressOf(QUrl()), QString());
+}
+
+} // namespace
