@@ -40,7 +40,7 @@ QString files::HostPathOrEmpty(const QString &drivePath)
 
 QString files::HostPath(const QString &drivePath)
 {
-    const QString path = HostPathOrEmpty(drivePath);
+    QString path = HostPathOrEmpty(drivePath);
     if (path.isEmpty())
         throw RuntimeError(RuntimeError::PathNotFound);
     return path;
