@@ -15,6 +15,7 @@
 
 #include <QScopeGuard>
 #include <algorithm>
+#include <optional>
 
 namespace
 {
@@ -189,8 +190,10 @@ void frmFind::ListWordsDescriptions(const QString &text, std::int32_t &autoID)
 void frmFind::FillFrom(ADODB::Recordset &table)
 {
     const bool refill = ListClickActive == 0;
-    const ListFill fill(*List1);
+    // A click leaves the list alone: its rows, its selection and its place.
+    std::optional<ListFill> fill;
     if (refill) {
+        fill.emplace(*List1);
         Shared.IncWords = QStringList(Shared.IncListCount + 1);
         Shared.IncAutoIDs = QList<std::int32_t>(Shared.IncListCount + 1);
         List1->Clear();
