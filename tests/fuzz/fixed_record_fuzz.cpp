@@ -2,22 +2,15 @@
 #include "platform/files/drive_path.h"
 #include "platform/files/fixed_record_file.h"
 #include "platform/files/line_file.h"
+#include "require.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace
 {
-
-/// Anything but a failure of the program's own kind, or a broken promise, ends the run.
-void Require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 void ReadRecords(const QString &path, qsizetype length)
 {
