@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <iconv.h>
+#include <string>
+#include <string_view>
 
 namespace text
 {
@@ -121,11 +123,11 @@ const Tables &SharedTables()
     return tables;
 }
 
-void AppendCode(QByteArray &out, int code)
+template <typename Bytes> void AppendCode(Bytes &out, int code)
 {
     if (code >= kByteValues)
-        out.append(static_cast<char>(code / kByteValues));
-    out.append(static_cast<char>(code % kByteValues));
+        out.push_back(static_cast<char>(code / kByteValues));
+    out.push_back(static_cast<char>(code % kByteValues));
 }
 
 /// The code point at `at`, which moves behind it; an unpaired surrogate is one.
@@ -192,23 +194,23 @@ Reference ReferenceAt(QStringView text)
     return {at + 1, codePoint};
 }
 
-void AppendReference(QByteArray &out, char32_t codePoint)
+std::string ReferenceTo(char32_t codePoint)
 {
-    out.append("&#x").append(QByteArray::number(static_cast<uint>(codePoint), 16).toUpper()).append(';');
+    return "&#x" + QByteArray::number(static_cast<uint>(codePoint), 16).toUpper().toStdString() + ';';
 }
 
 /// Encodes as a record until `add(piece)`, given the bytes of one character, returns false.
 template <typename Add> void EncodeRecordPieces(QStringView text, Add add)
 {
     const Tables &tables = SharedTables();
-    QByteArray piece;
+    std::string piece; // short enough to need no memory of its own
     for (qsizetype at = 0; at < text.size();) {
-        const bool startsReference = ReferenceAt(text.sliced(at)).length > 0;
+        const bool startsReference = text[at] == u'&' && ReferenceAt(text.sliced(at)).length > 0;
         const char32_t codePoint = NextCodePoint(text, at);
         const int code = CodeIn(tables.exactCode, codePoint);
-        piece.resize(0);
+        piece.clear();
         if (code == kNoCode || startsReference)
-            AppendReference(piece, codePoint);
+            piece = ReferenceTo(codePoint);
         else
             AppendCode(piece, code);
         if (!add(piece))
@@ -267,8 +269,8 @@ QByteArray EncodeRecord(QStringView text)
 {
     QByteArray out;
     out.reserve(text.size() * 2);
-    EncodeRecordPieces(text, [&out](const QByteArray &piece) {
-        out.append(piece);
+    EncodeRecordPieces(text, [&out](std::string_view piece) {
+        out.append(piece.data(), qsizetype(piece.size()));
         return true;
     });
     return out;
@@ -298,10 +300,10 @@ QByteArray FixedField(QStringView text, qsizetype size)
 {
     QByteArray field;
     field.reserve(size);
-    EncodeRecordPieces(text, [&field, size](const QByteArray &piece) {
-        const bool fits = field.size() + piece.size() <= size;
+    EncodeRecordPieces(text, [&field, size](std::string_view piece) {
+        const bool fits = field.size() + qsizetype(piece.size()) <= size;
         if (fits)
-            field.append(piece);
+            field.append(piece.data(), qsizetype(piece.size()));
         return fits;
     });
     return field.leftJustified(size, ' ');
