@@ -44,6 +44,17 @@ std::string SqlOf(Session &session, std::string_view type, std::string_view name
     return query.Step() ? std::string(query.Text(0)) : std::string();
 }
 
+/// SQLite reads a last page that was cut off as if the rest of it were zero.
+void RequireWholePages(Session &session)
+{
+    sqlite3_file *file = nullptr;
+    sqlite3_int64 size = 0;
+    if (sqlite3_file_control(session.Database(), "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
+        file->pMethods == nullptr || file->pMethods->xFileSize(file, &size) != SQLITE_OK ||
+        size % kPageSize != 0)
+        RaiseCode(SQLITE_NOTADB);
+}
+
 } // namespace
 
 QLatin1String ColumnName(Column column)
@@ -113,6 +124,7 @@ bool HasIndex(Session &session)
 
 void RequireMarks(Session &session)
 {
+    RequireWholePages(session);
     if (session.NumberOf("PRAGMA application_id") != kApplicationId ||
         session.NumberOf("PRAGMA user_version") >> 16 != kFormatVersion)
         RaiseCode(SQLITE_NOTADB);

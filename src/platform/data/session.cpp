@@ -153,8 +153,10 @@ void Session::BeginWrite()
 
 void Session::Commit()
 {
-    // A commit waits until nobody reads, this process included.
+    // A commit waits until nobody reads, this process included; a statement left open would go on
+    // reading behind it.
     ReleaseAllReads();
+    ResetStatements();
     try {
         Run("COMMIT");
     } catch (...) {

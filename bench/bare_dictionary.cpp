@@ -1,0 +1,165 @@
+#include "bare_dictionary.h"
+
+#include "platform/text/fold.h"
+
+#include <QByteArray>
+#include <chrono>
+#include <cstdlib>
+#include <limits>
+#include <sqlite3.h>
+#include <string_view>
+
+namespace bench
+{
+
+namespace
+{
+
+int CompareWords(void * /*unused*/, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return text::CompareUtf8({static_cast<const char *>(left), static_cast<std::size_t>(leftSize)},
+                             {static_cast<const char *>(right), static_cast<std::size_t>(rightSize)});
+}
+
+void Check(int code)
+{
+    if (code != SQLITE_OK)
+        std::abort();
+}
+
+sqlite3 *Open(const QString &path, int flags)
+{
+    sqlite3 *database = nullptr;
+    Check(sqlite3_open_v2(path.toUtf8().constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr));
+    Check(sqlite3_create_collation(database, "WORDMERE", SQLITE_UTF8, nullptr, CompareWords));
+    return database;
+}
+
+void Run(sqlite3 *database, const char *sql)
+{
+    Check(sqlite3_exec(database, sql, nullptr, nullptr, nullptr));
+}
+
+sqlite3_stmt *Prepare(sqlite3 *database, const char *sql)
+{
+    sqlite3_stmt *statement = nullptr;
+    Check(sqlite3_prepare_v2(database, sql, -1, &statement, nullptr));
+    return statement;
+}
+
+void Bind(sqlite3_stmt *statement, int parameter, std::string_view text)
+{
+    Check(sqlite3_bind_text64(statement, parameter, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+std::string_view Text(sqlite3_stmt *statement, int column)
+{
+    const void *bytes = sqlite3_column_blob(statement, column);
+    return {static_cast<const char *>(bytes),
+            static_cast<std::size_t>(sqlite3_column_bytes(statement, column))};
+}
+
+constexpr char kEqualForward[] = "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
+                                 "WHERE Word = ?1 AND AutoID > ?2 ORDER BY AutoID";
+constexpr char kForward[] = "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
+                            "WHERE Word > ?1 ORDER BY Word, AutoID";
+constexpr char kEqualBackward[] = "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
+                                  "WHERE Word = ?1 AND AutoID <= ?2 ORDER BY AutoID DESC";
+constexpr char kBackward[] = "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
+                             "WHERE Word < ?1 ORDER BY Word DESC, AutoID DESC";
+constexpr char kWhole[] = "SELECT Word, Pronunciation, WordPhrase, Description, Example FROM Dictionary "
+                          "WHERE AutoID = ?1";
+
+/// Runs the equal range, then the other, until `take` has enough.
+template <typename Take>
+void Walk(sqlite3_stmt *equal, sqlite3_stmt *other, const std::string &word, qint64 autoID, Take take)
+{
+    Bind(equal, 1, word);
+    Check(sqlite3_bind_int64(equal, 2, autoID));
+    while (sqlite3_step(equal) == SQLITE_ROW)
+        if (!take(equal))
+            return;
+    Bind(other, 1, word);
+    while (sqlite3_step(other) == SQLITE_ROW)
+        if (!take(other))
+            return;
+}
+
+} // namespace
+
+std::size_t BareIncrementalStep(const QString &path, const std::string &word)
+{
+    sqlite3 *database = Open(path, SQLITE_OPEN_READWRITE);
+    Run(database, "BEGIN");
+    sqlite3_stmt *equalForward = Prepare(database, kEqualForward);
+    sqlite3_stmt *forward = Prepare(database, kForward);
+    sqlite3_stmt *equalBackward = Prepare(database, kEqualBackward);
+    sqlite3_stmt *backward = Prepare(database, kBackward);
+    sqlite3_stmt *whole = Prepare(database, kWhole);
+
+    std::size_t bytes = 0;
+    std::string place;
+    qint64 placeID = 0;
+    const auto stand = [&](sqlite3_stmt *statement) {
+        place = Text(statement, 0);
+        placeID = sqlite3_column_int64(statement, 1);
+        return false;
+    };
+    Walk(equalForward, forward, {}, std::numeric_limits<qint64>::min(), stand);
+    bytes += place.size();
+    sqlite3_reset(equalForward);
+    sqlite3_reset(forward);
+    Walk(equalBackward, backward, word, 0, stand);
+    int count = 0;
+    Walk(equalForward, forward, place, placeID, [&](sqlite3_stmt *statement) {
+        bytes += Text(statement, 0).size();
+        if (count < 15) {
+            Check(sqlite3_bind_int64(whole, 1, sqlite3_column_int64(statement, 1)));
+            if (sqlite3_step(whole) == SQLITE_ROW)
+                for (int column = 0; column < 5; ++column)
+                    bytes += Text(whole, column).size();
+            sqlite3_reset(whole);
+        }
+        return ++count < 50;
+    });
+    for (sqlite3_stmt *statement : {equalForward, forward, equalBackward, backward, whole})
+        sqlite3_finalize(statement);
+    Run(database, "COMMIT");
+    sqlite3_close(database);
+    return bytes;
+}
+
+void BareLoad(const QString &path, std::span<const GeneratedRow> rows)
+{
+    using Clock = std::chrono::steady_clock;
+    sqlite3 *database = Open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    Run(database,
+        "PRAGMA page_size = 16384; PRAGMA journal_mode = TRUNCATE;"
+        "CREATE TABLE Dictionary(Word TEXT NOT NULL COLLATE WORDMERE, Pronunciation TEXT, "
+        "WordPhrase INTEGER, Description TEXT, Example TEXT, AutoID INTEGER PRIMARY KEY AUTOINCREMENT)");
+    sqlite3_stmt *insert = Prepare(
+        database,
+        "INSERT INTO Dictionary(Word, Pronunciation, WordPhrase, Description, Example) VALUES(?,?,?,?,?)");
+    Run(database, "BEGIN");
+    Clock::time_point groupEnd = Clock::now() + std::chrono::milliseconds(250);
+    for (const GeneratedRow &row : rows) {
+        Bind(insert, 1, row.word.toStdString());
+        Bind(insert, 2, row.pronunciation.toStdString());
+        Check(sqlite3_bind_int(insert, 3, row.wordPhrase));
+        Bind(insert, 4, row.description.toStdString());
+        Bind(insert, 5, row.example.toStdString());
+        if (sqlite3_step(insert) != SQLITE_DONE)
+            std::abort();
+        sqlite3_reset(insert);
+        if (Clock::now() >= groupEnd) {
+            Run(database, "COMMIT; BEGIN");
+            groupEnd = Clock::now() + std::chrono::milliseconds(250);
+        }
+    }
+    Run(database, "COMMIT");
+    sqlite3_finalize(insert);
+    Run(database, "CREATE UNIQUE INDEX WordID ON Dictionary(Word, AutoID, WordPhrase)");
+    sqlite3_close(database);
+}
+
+} // namespace bench

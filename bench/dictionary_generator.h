@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+
+/// A dictionary of made-up rows, the same ones at every run: 19-character headwords in mixed case,
+/// phrases, hyphens, apostrophes, kana and kanji, 60-character Japanese meanings drawn as unevenly as
+/// words are, an example in one row of ten.
+namespace bench
+{
+
+enum class RowOrder { Sorted, Random };
+
+struct GeneratedRow {
+    QString word;
+    QString pronunciation;
+    int wordPhrase = 1;
+    QString description;
+    QString example; ///< empty in nine of ten rows
+};
+
+/// Row `number` of `count`, from 0. Sorted, the headwords rise with the number, roughly as in a
+/// printed source; in random order each stands anywhere.
+class DictionaryGenerator
+{
+public:
+    DictionaryGenerator(std::uint32_t count, RowOrder order) : m_count(count), m_order(order) {}
+
+    GeneratedRow Row(std::uint32_t number) const;
+
+private:
+    std::uint32_t Place(std::uint32_t number) const;
+
+    std::uint32_t m_count;
+    RowOrder m_order;
+};
+
+/// Makes a dictionary file at a host path through the engine; raises what the engine raises.
+void MakeDictionary(const QString &hostPath, std::uint32_t count, RowOrder order);
+
+/// Makes the file without any row.
+void MakeEmptyDictionary(const QString &hostPath);
+
+} // namespace bench

@@ -1,0 +1,141 @@
+#include "platform/data/jro.h"
+#include "unit/data/dictionary_fixture.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class Compaction : public DictionaryTest
+{
+protected:
+    void Compact(const QString &from = u"a.mdb"_s, const QString &to = u"b.mdb"_s) const
+    {
+        JRO::JetEngine engine;
+        engine.CompactDatabase(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(from),
+                               u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(to));
+    }
+    QByteArray Bytes() const
+    {
+        QFile file(Host());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// A file of which most rows were deleted.
+    void CreateSparse() const
+    {
+        QStringList words;
+        for (int i = 0; i < 4000; ++i)
+            words.append(u"headword number %1"_s.arg(i * 7 % 4001));
+        CreateWith(words);
+        RunRaw("DELETE FROM Dictionary WHERE AutoID % 10 <> 3");
+        RunRaw("UPDATE Dictionary SET Example = 'example' WHERE AutoID = 13");
+    }
+};
+
+TEST_F(Compaction, KeepsRowsNumbersAndTheCounter)
+{
+    CreateSparse();
+    RunRaw("REINDEX");
+    RunRaw("DROP INDEX WordID");
+    const std::vector<Entry> rows = All();
+    ASSERT_EQ(rows.size(), 400U);
+    const QByteArray before = Bytes();
+    Compact();
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(All(u"b.mdb"_s), rows);
+    EXPECT_LT(QFileInfo(Host(u"b.mdb"_s)).size(), before.size());
+    EXPECT_EQ(AskRaw("SELECT Example FROM Dictionary WHERE AutoID = 13", u"b.mdb"_s), "example");
+    EXPECT_EQ(AskRaw("PRAGMA page_size", u"b.mdb"_s), "16384");
+    EXPECT_EQ(OpenTable(u"b.mdb"_s)->Add(u"next"_s).autoID, 4001);
+    EXPECT_EQ(Names(), (QStringList{u"a.mdb"_s, u"b.mdb"_s}));
+}
+
+TEST_F(Compaction, BuildsTheIndexThatTheSourceLacks)
+{
+    CreateWith({u"B"_s, u"a"_s, u"Ｃ"_s});
+    RunRaw("DROP INDEX WordID");
+    std::vector<bool> busy;
+    ADODB::EngineHooks().busy = [&busy](bool begins) { busy.push_back(begins); };
+    Compact();
+    EXPECT_FALSE(busy.empty());
+    EXPECT_EQ(All(u"b.mdb"_s), (std::vector<Entry>{{u"a"_s, 2}, {u"B"_s, 1}, {u"Ｃ"_s, 3}}));
+}
+
+TEST_F(Compaction, EmptyDictionary)
+{
+    CreateWith({u"a"_s});
+    OpenTable()->rows.Delete();
+    Compact();
+    EXPECT_TRUE(All(u"b.mdb"_s).empty());
+    EXPECT_EQ(OpenTable(u"b.mdb"_s)->Add(u"x"_s).autoID, 2);
+}
+
+TEST_F(Compaction, NothingStaysOfAFailure)
+{
+    QFile file(Host(u"text.mdb"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("no dictionary");
+    file.close();
+    EXPECT_EQ(Raised([&] { Compact(u"text.mdb"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(Raised([&] { Compact(u"none.mdb"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(Names(), QStringList{u"text.mdb"_s});
+
+    CreateWith({u"a"_s});
+    faults::FailNext(u"CompactDatabase"_s, 61);
+    try {
+        Compact();
+        ADD_FAILURE();
+    } catch (const RuntimeError &error) {
+        EXPECT_EQ(error.number(), 61);
+        EXPECT_EQ(error.source(), u"JRO.JetEngine"_s);
+    }
+    files::MarkReadOnly(QFileInfo(Host()).path());
+    EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::PermissionDenied);
+    EXPECT_EQ(Names(), (QStringList{u"a.mdb"_s, u"text.mdb"_s}));
+}
+
+TEST_F(Compaction, ExistingTargetIsLeftAlone)
+{
+    CreateWith({u"a"_s});
+    CreateWith({u"x"_s, u"y"_s}, u"b.mdb"_s);
+    EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(All(u"b.mdb"_s).size(), 2U);
+}
+
+TEST_F(Compaction, DamagedSourceGivesNoCopy)
+{
+    CreateSparse();
+    QFile file(Host());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek(16384 * 3));
+    file.write(QByteArray(16384, '\x5a'));
+    file.close();
+    const QByteArray before = Bytes();
+    EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(Names(), QStringList{u"a.mdb"_s});
+}
+
+TEST_F(Compaction, WhatTheProgressHookRaisesEndsIt)
+{
+    Create();
+    RunRaw("INSERT INTO Dictionary(Word) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+           "WHERE i < 300000) SELECT 'headword number ' || i FROM n");
+    RunRaw("DROP INDEX WordID");
+    files::MarkReadOnly(Host());
+    int calls = 0;
+    ADODB::EngineHooks().progress = [&calls] {
+        ADODB::ReleaseReads();
+        if (++calls == 2)
+            throw RuntimeError(RuntimeError::InvalidCall);
+    };
+    const qint32 number = Raised([&] { Compact(); });
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(number, RuntimeError::InvalidCall);
+    EXPECT_EQ(Names(), QStringList{u"a.mdb"_s});
+}
+
+} // namespace
