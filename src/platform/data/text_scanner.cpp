@@ -15,13 +15,15 @@ namespace
 {
 
 constexpr char32_t kReplacement = 0xFFFD;
-/// More bytes of a literal do not make it rarer, and the tail of a text is copied by this measure.
+/// More bytes of a literal do not make it rarer.
 constexpr size_t kLongestPart = 32;
 constexpr size_t kMostLeads = 4;
 constexpr int kMostMaskedBits = 4;
 constexpr int kMostLeadBits = 2;
 constexpr size_t kStrangerSize = 3;
 constexpr size_t kAnchorCount = 2;
+/// Headwords are mostly too short to fill a wide vector and would be searched byte by byte.
+constexpr size_t kLeastForWidest = 64;
 /// The blank's full-width form begins as the Japanese comma does: it would be met all the time.
 constexpr unsigned char kJapaneseLead = 0xE3;
 
@@ -79,17 +81,17 @@ bool TextScanner::Part::AddLead(const Stranger &stranger)
 {
     const unsigned char first = ByteAt(stranger.bytes, 0);
     const unsigned char second = ByteAt(stranger.bytes, 1);
-    for (Lead &lead : leads) {
-        if (lead.first != first)
+    for (Probe &lead : leads) {
+        if (lead.bytes[0].value != first)
             continue;
-        const auto mask =
-            static_cast<unsigned char>(lead.second.mask | ((second | lead.second.mask) ^ lead.second.value));
+        const auto mask = static_cast<unsigned char>(lead.bytes[1].mask |
+                                                     ((second | lead.bytes[1].mask) ^ lead.bytes[1].value));
         if (std::popcount(mask) > kMostLeadBits)
             continue;
-        lead.second = {mask, static_cast<unsigned char>(second | mask)};
+        lead.bytes[1] = {mask, static_cast<unsigned char>(second | mask)};
         return true;
     }
-    leads.push_back({first, {0, second}});
+    leads.push_back({{0, 1}, {{0, first}, {0, second}}, 2});
     return leads.size() <= kMostLeads;
 }
 
@@ -168,7 +170,6 @@ TextScanner::TextScanner(std::u32string_view foldedLiteral)
     ChooseAnchors();
 }
 
-/// The anchors are the two rarest bytes: only where both stand is the rest compared.
 void TextScanner::ChooseAnchors()
 {
     std::vector<size_t> places(m_part.bytes.size());
@@ -177,8 +178,11 @@ void TextScanner::ChooseAnchors()
     std::stable_sort(places.begin(), places.end(), [this](size_t a, size_t b) {
         return Commonness(m_part.bytes[a].value) < Commonness(m_part.bytes[b].value);
     });
-    for (size_t i = 0; i < kAnchorCount && !places.empty(); ++i)
-        m_anchors[i] = places[std::min(i, places.size() - 1)];
+    m_anchors.length = places.size();
+    for (size_t i = 0; i < kAnchorCount && !places.empty(); ++i) {
+        m_anchors.offsets[i] = places[std::min(i, places.size() - 1)];
+        m_anchors.bytes[i] = m_part.bytes[m_anchors.offsets[i]];
+    }
 }
 
 bool TextScanner::IsLiteralAt(const unsigned char *at, const unsigned char *end) const
@@ -197,75 +201,66 @@ bool TextScanner::IsStrangerAt(const unsigned char *at, const unsigned char *end
     });
 }
 
+/// The first place from `at` on where both bytes of the probe stand; null for none.
 template <size_t Width>
-TextScanner::Finding TextScanner::FindByBlocks(const unsigned char *at, const unsigned char *end) const
+const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsigned char *at,
+                                                const unsigned char *end)
 {
-    using Byte = unsigned char;
     using Block = typename Vector<Width>::Block;
     using Hits = typename Vector<Width>::Hits;
-    constexpr size_t kLaneSize = sizeof(unsigned long long);
-    constexpr size_t kLanes = Width / kLaneSize;
-
-    Block anchorMasks[kAnchorCount];
-    Block anchorValues[kAnchorCount];
-    for (size_t i = 0; i < kAnchorCount; ++i) {
-        anchorMasks[i] = Block{} + m_part.bytes[m_anchors[i]].mask;
-        anchorValues[i] = Block{} + m_part.bytes[m_anchors[i]].value;
+    using Lane = unsigned long long;
+    if (static_cast<size_t>(end - at) < probe.length)
+        return nullptr;
+    const size_t places = static_cast<size_t>(end - at) - probe.length + 1;
+    const auto [firstByte, secondByte] = probe.bytes;
+    const size_t firstOffset = probe.offsets[0];
+    const size_t secondOffset = probe.offsets[1];
+    if (places < Width) {
+        for (const unsigned char *const last = at + places; at != last; ++at)
+            if ((at[firstOffset] | firstByte.mask) == firstByte.value &&
+                (at[secondOffset] | secondByte.mask) == secondByte.value)
+                return at;
+        return nullptr;
     }
-    const size_t leadCount = m_part.leads.size();
-    Block leadFirsts[kMostLeads];
-    Block leadMasks[kMostLeads];
-    Block leadValues[kMostLeads];
-    for (size_t i = 0; i < leadCount; ++i) {
-        leadFirsts[i] = Block{} + m_part.leads[i].first;
-        leadMasks[i] = Block{} + m_part.leads[i].second.mask;
-        leadValues[i] = Block{} + m_part.leads[i].second.value;
-    }
-    const size_t reach = std::max({m_anchors[0], m_anchors[1], size_t(1)});
-
-    // The last bytes are copied before they are read by blocks, which would go beyond the text.
-    Byte tail[3 * Width + 2 * kLongestPart];
-    bool isTail = false;
-    for (;; at += Width) {
-        if (!isTail && static_cast<size_t>(end - at) < Width + reach) {
-            const auto rest = static_cast<size_t>(end - at);
-            std::memset(tail, 0, sizeof tail);
-            std::memcpy(tail, at, rest);
-            at = tail;
-            end = tail + rest;
-            isTail = true;
-        }
-        if (isTail && at >= end)
-            return Finding::Absent;
-
-        Block bytes;
-        Block other;
-        std::memcpy(&bytes, at + m_anchors[0], Width);
-        std::memcpy(&other, at + m_anchors[1], Width);
-        Hits hits =
-            ((bytes | anchorMasks[0]) == anchorValues[0]) & ((other | anchorMasks[1]) == anchorValues[1]);
-        if (leadCount > 0) {
-            std::memcpy(&bytes, at, Width);
-            std::memcpy(&other, at + 1, Width);
-            for (size_t i = 0; i < leadCount; ++i)
-                hits |= (bytes == leadFirsts[i]) & ((other | leadMasks[i]) == leadValues[i]);
-        }
-
-        unsigned long long lanes[kLanes];
+    const Block firstMask = Block{} + firstByte.mask;
+    const Block firstValue = Block{} + firstByte.value;
+    const Block secondMask = Block{} + secondByte.mask;
+    const Block secondValue = Block{} + secondByte.value;
+    // The last block overlaps the one before it, so that nothing is read beyond the text.
+    const unsigned char *const lastBlock = at + (places - Width);
+    for (;;) {
+        Block first;
+        Block second;
+        std::memcpy(&first, at + firstOffset, Width);
+        std::memcpy(&second, at + secondOffset, Width);
+        const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
+        Lane lanes[Width / sizeof(Lane)];
         std::memcpy(lanes, &hits, Width);
-        for (size_t lane = 0; lane < kLanes; ++lane) {
+        for (size_t lane = 0; lane < std::size(lanes); ++lane) {
             if (lanes[lane] == 0)
                 continue;
-            for (size_t i = lane * kLaneSize; i < (lane + 1) * kLaneSize && at + i < end; ++i) {
-                if (hits[i] == 0)
-                    continue;
-                if (IsLiteralAt(at + i, end))
-                    return m_part.isExact ? Finding::Certain : Finding::Possible;
-                if (IsStrangerAt(at + i, end))
-                    return Finding::Possible;
-            }
+            size_t hit = lane * sizeof(Lane);
+            while (hits[hit] == 0)
+                ++hit;
+            return at + hit;
         }
+        if (at == lastBlock)
+            return nullptr;
+        at = std::min(at + Width, lastBlock);
     }
+}
+
+template <size_t Width>
+TextScanner::Finding TextScanner::FindByBlocks(const unsigned char *begin, const unsigned char *end) const
+{
+    for (const unsigned char *at = begin; (at = NextCandidate<Width>(m_anchors, at, end)); ++at)
+        if (IsLiteralAt(at, end))
+            return m_part.isExact ? Finding::Certain : Finding::Possible;
+    for (const Probe &lead : m_part.leads)
+        for (const unsigned char *at = begin; (at = NextCandidate<Width>(lead, at, end)); ++at)
+            if (IsStrangerAt(at, end))
+                return Finding::Possible;
+    return Finding::Absent;
 }
 
 TextScanner::Finding TextScanner::FindBaseline(const unsigned char *begin, const unsigned char *end) const
@@ -292,7 +287,7 @@ TextScanner::Finding TextScanner::Find(std::string_view utf8, [[maybe_unused]] V
     const unsigned char *end = begin + utf8.size();
 #ifdef __x86_64__
     static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0;
-    if (hasAvx2 && vectors == Vectors::Widest)
+    if (hasAvx2 && vectors == Vectors::Widest && utf8.size() >= kLeastForWidest)
         return FindAvx2(begin, end);
 #endif
     return FindBaseline(begin, end);

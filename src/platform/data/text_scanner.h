@@ -38,16 +38,17 @@ private:
     struct Stranger {
         std::string bytes;
     };
-    /// A pair of neighbouring bytes that strangers begin with.
-    struct Lead {
-        unsigned char first;
-        MaskedByte second;
+    /// Two bytes that stand at fixed offsets where something of `length` bytes may begin.
+    struct Probe {
+        size_t offsets[2];
+        MaskedByte bytes[2];
+        size_t length;
     };
     /// What is looked for: consecutive characters of the literal.
     struct Part {
         std::vector<MaskedByte> bytes;
         std::vector<Stranger> strangers;
-        std::vector<Lead> leads;
+        std::vector<Probe> leads; ///< the pairs of bytes that the strangers begin with
         size_t characters = 0;
         bool isExact = true; ///< the masked bytes match forms of the characters and nothing else
 
@@ -61,13 +62,16 @@ private:
     bool IsStrangerAt(const unsigned char *at, const unsigned char *end) const;
 
     template <size_t Width>
-    [[gnu::always_inline]] inline Finding FindByBlocks(const unsigned char *at,
+    [[gnu::always_inline]] static inline const unsigned char *
+    NextCandidate(const Probe &probe, const unsigned char *at, const unsigned char *end);
+    template <size_t Width>
+    [[gnu::always_inline]] inline Finding FindByBlocks(const unsigned char *begin,
                                                        const unsigned char *end) const;
     Finding FindBaseline(const unsigned char *begin, const unsigned char *end) const;
     Finding FindAvx2(const unsigned char *begin, const unsigned char *end) const;
 
     Part m_part;
-    size_t m_anchors[2] = {0, 0};
+    Probe m_anchors{}; ///< the two rarest bytes of the part
 };
 
 } // namespace data

@@ -46,6 +46,7 @@ class Converter
 public:
     Converter(const char *to, const char *from) : m_descriptor(iconv_open(to, from))
     {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how the call reports its failure
         if (m_descriptor == iconv_t(-1))
             throw RuntimeError(kInternalError, RuntimeError::defaultSource(),
                                QStringLiteral("システムに文字コード CP932 の変換機能がありません。"));
@@ -239,7 +240,8 @@ QString Decode(QByteArrayView bytes)
             continue;
         }
         const int trail = at < size ? static_cast<uchar>(bytes[at]) : 0;
-        const char16_t character = tables.character[static_cast<size_t>(byte * kByteValues + trail)];
+        const char16_t character =
+            tables.character[static_cast<size_t>(byte) * kByteValues + static_cast<size_t>(trail)];
         if (character != kNoCharacter) {
             *out++ = character;
             ++at;
@@ -278,7 +280,7 @@ QByteArray EncodeRecord(QStringView text)
 
 QString DecodeRecord(QByteArrayView bytes)
 {
-    const QString raw = Decode(bytes);
+    QString raw = Decode(bytes);
     qsizetype at = raw.indexOf(u'&');
     if (at < 0)
         return raw;
