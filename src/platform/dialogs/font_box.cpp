@@ -2,76 +2,144 @@
 
 #include "platform/host/looks.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDialogButtonBox>
-#include <QFontDialog>
+#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
-dialogs::FontBox::FontBox(const QString &title, const FontChoice &start, QWidget *parent)
-    : QDialog(parent), m_start(start), m_color(start.color), m_fonts(new QFontDialog(this)),
-      m_colorButton(new QPushButton(this))
+namespace dialogs
+{
+
+FontBox::FontBox(const QString &title, const FontChoice &start, QWidget *parent)
+    : QDialog(parent), m_color(start.color)
 {
     setWindowTitle(title);
-    m_fonts->setWindowFlags(Qt::Widget);
-    m_fonts->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
-    m_fonts->setCurrentFont(
-        host::FontOf(start.name, start.size, start.bold, start.italic, start.strikeout, start.underline));
-    m_shownFamily = m_fonts->currentFont().family();
+    m_sample = new QLabel(QStringLiteral("Aaあぁアァ亜宇"), this);
+    m_sample->setTextFormat(Qt::PlainText);
+    m_sample->setAlignment(Qt::AlignCenter);
+    m_sample->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    m_sample->setMinimumSize(320, 80);
+    m_sample->setAutoFillBackground(true);
+    m_sample->setAccessibleName(QStringLiteral("サンプル"));
 
-    auto *colorRow = new QHBoxLayout;
-    auto *colorLabel = new QLabel(QStringLiteral("色(&C):"), this);
-    colorLabel->setBuddy(m_colorButton);
-    m_colorButton->setAutoDefault(false);
-    m_colorButton->setAccessibleName(QStringLiteral("色"));
-    m_colorButton->setIconSize({48, 16});
-    colorRow->addWidget(colorLabel);
-    colorRow->addWidget(m_colorButton);
-    colorRow->addStretch();
-
-    auto *buttons = new QDialogButtonBox(this);
-    buttons->addButton(ButtonWord(OK), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(ButtonWord(Cancel), QDialogButtonBox::RejectRole);
-
+    auto *columns = new QHBoxLayout;
+    columns->addLayout(MakeFamilyColumn(start.name), 1);
+    columns->addLayout(MakeEffectsColumn(start));
     auto *rows = new QVBoxLayout(this);
-    rows->addWidget(m_fonts);
-    rows->addLayout(colorRow);
-    rows->addWidget(buttons);
-
-    connect(m_colorButton, &QPushButton::clicked, this, &FontBox::ChooseColor);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    ShowColor();
+    rows->addLayout(columns);
+    rows->addWidget(m_sample);
+    rows->addLayout(MakeButtonRow());
+    ShowSample();
 }
 
-dialogs::FontChoice dialogs::FontBox::Choice() const
+QLayout *FontBox::MakeFamilyColumn(const QString &name)
 {
-    const QFont font = m_fonts->currentFont();
+    auto *label = new QLabel(QStringLiteral("フォント名(&F):"), this);
+    m_families = new QListWidget(this);
+    m_families->setAccessibleName(QStringLiteral("フォント名"));
+    label->setBuddy(m_families);
+    QStringList families = QFontDatabase::families();
+    if (!families.contains(name))
+        families.prepend(name);
+    m_families->addItems(families);
+    m_families->setCurrentRow(static_cast<int>(families.indexOf(name)));
+    connect(m_families, &QListWidget::currentRowChanged, this, &FontBox::ShowSample);
+    auto *column = new QVBoxLayout;
+    column->addWidget(label);
+    column->addWidget(m_families);
+    return column;
+}
+
+QLayout *FontBox::MakeEffectsColumn(const FontChoice &start)
+{
+    constexpr int smallest = 1, largest = 1638;
+    auto *sizeLabel = new QLabel(QStringLiteral("サイズ(&S):"), this);
+    m_size = new QSpinBox(this);
+    m_size->setRange(smallest, largest);
+    m_size->setValue(start.size);
+    m_size->setAccessibleName(QStringLiteral("サイズ"));
+    sizeLabel->setBuddy(m_size);
+    connect(m_size, &QSpinBox::valueChanged, this, &FontBox::ShowSample);
+
+    m_bold = MakeEffect(QStringLiteral("太字(&B)"), start.bold);
+    m_italic = MakeEffect(QStringLiteral("斜体(&I)"), start.italic);
+    m_strikeout = MakeEffect(QStringLiteral("取り消し線(&K)"), start.strikeout);
+    m_underline = MakeEffect(QStringLiteral("下線(&U)"), start.underline);
+
+    m_colorButton = new QPushButton(QStringLiteral("色(&C)..."), this);
+    m_colorButton->setAutoDefault(false);
+    connect(m_colorButton, &QPushButton::clicked, this, &FontBox::ChooseColor);
+
+    auto *column = new QVBoxLayout;
+    for (QWidget *widget : std::initializer_list<QWidget *>{sizeLabel, m_size, m_bold, m_italic, m_strikeout,
+                                                            m_underline, m_colorButton})
+        column->addWidget(widget);
+    column->addStretch();
+    return column;
+}
+
+QCheckBox *FontBox::MakeEffect(const QString &caption, bool on)
+{
+    auto *effect = new QCheckBox(caption, this);
+    effect->setChecked(on);
+    connect(effect, &QCheckBox::toggled, this, &FontBox::ShowSample);
+    return effect;
+}
+
+QLayout *FontBox::MakeButtonRow()
+{
+    auto *buttons = new QDialogButtonBox(this);
+    buttons->addButton(ButtonWord(OK), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(ButtonWord(Cancel), QDialogButtonBox::RejectRole)->setAutoDefault(false);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *row = new QHBoxLayout;
+    row->addWidget(buttons);
+    return row;
+}
+
+FontChoice FontBox::Choice() const
+{
     FontChoice choice;
-    choice.name = font.family() == m_shownFamily ? m_start.name : font.family();
-    choice.size = qMax(1, qRound(font.pointSizeF()));
+    if (const QListWidgetItem *family = m_families->currentItem())
+        choice.name = family->text();
+    choice.size = m_size->value();
     choice.color = m_color;
-    choice.bold = font.bold();
-    choice.italic = font.italic();
-    choice.strikeout = font.strikeOut();
-    choice.underline = font.underline();
+    choice.bold = m_bold->isChecked();
+    choice.italic = m_italic->isChecked();
+    choice.strikeout = m_strikeout->isChecked();
+    choice.underline = m_underline->isChecked();
     return choice;
 }
 
-void dialogs::FontBox::ChooseColor()
+void FontBox::ChooseColor()
 {
     const QColor chosen = QColorDialog::getColor(host::ColorOf(m_color), this, QStringLiteral("色の設定"),
                                                  QColorDialog::DontUseNativeDialog);
-    if (chosen.isValid())
-        m_color = host::BgrOf(chosen);
-    ShowColor();
+    if (!chosen.isValid())
+        return;
+    m_color = host::BgrOf(chosen);
+    ShowSample();
 }
 
-void dialogs::FontBox::ShowColor()
+void FontBox::ShowSample()
 {
-    QPixmap swatch(m_colorButton->iconSize());
-    swatch.fill(host::ColorOf(m_color));
-    m_colorButton->setIcon(swatch);
+    // Signals of the controls come while the box is still being put together.
+    if (!m_colorButton)
+        return;
+    const FontChoice choice = Choice();
+    m_sample->setFont(host::FontOf(choice.name, choice.size, choice.bold, choice.italic, choice.strikeout,
+                                   choice.underline));
+    QPalette palette = m_sample->palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::WindowText, host::ColorOf(choice.color));
+    m_sample->setPalette(palette);
 }
+
+} // namespace dialogs

@@ -246,13 +246,13 @@ TEST_F(DialogsTest, RealFileBoxGivesADrivePathAndRefusesBackslashes)
         EXPECT_EQ(dialog.labelText(QFileDialog::Reject), QStringLiteral("キャンセル"));
         dialog.setDirectory(folder.path());
         dialog.findChild<QLineEdit *>()->setText(bad);
-        WhenOpen<QMessageBox>([&](QMessageBox &box) {
-            warning = box.text();
+        WhenOpen<QMessageBox>([&](QMessageBox &refusal) {
+            warning = refusal.text();
             WhenOpen<QFileDialog>([&](QFileDialog &again) {
                 again.findChild<QLineEdit *>()->setText(good);
                 QMetaObject::invokeMethod(&again, "accept");
             });
-            box.accept();
+            refusal.accept();
         });
         QMetaObject::invokeMethod(&dialog, "accept");
     });

@@ -193,6 +193,7 @@ TEST_F(ListBoxTest, TellsTheRowAtAPoint)
     EXPECT_EQ(list.ItemFromPoint({5, -1}), 0x10000U);
     EXPECT_EQ(list.ItemFromPoint({-1, 25}), 0x10001U);
     Fill(Numbers(100));
+    QApplication::processEvents();
     list.verticalScrollBar()->setValue(10);
     EXPECT_EQ(list.ItemFromPoint({5, 5}), 10U);
 }
