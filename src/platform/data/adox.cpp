@@ -58,12 +58,6 @@ bool IsWordID(const Key &key)
                        QStringLiteral("辞書データベースのテーブルとは異なる定義です。"));
 }
 
-/// A statement's work in a write transaction of its own.
-template <typename Work> void Change(data::Session &session, Work &&work)
-{
-    session.Write([&] { work(session); });
-}
-
 } // namespace
 
 void Column::SetProperty(const QString &name, const QVariant &value)
@@ -107,7 +101,7 @@ void Table::AppendColumn(const Column &column)
         if (d->session) {
             if (d->columns.size() + 1 != kShapes.size() || !HasShape(column, kShapes.back()))
                 RaiseBadShape();
-            Change(*d->session, data::AddAutoID);
+            d->session->Write([this] { data::AddAutoID(*d->session); });
         }
         d->columns.push_back(column);
         d->columns.back().ParentCatalog = nullptr;
@@ -122,7 +116,7 @@ void Table::AppendKey(const Key &key, int type)
         if (d->session) {
             if (!d->HasShapeOf(kShapes.size()))
                 RaiseBadShape();
-            Change(*d->session, data::CreateIndex);
+            data::BuildIndex(*d->session);
         }
         d->hasKey = true;
     });
@@ -173,10 +167,11 @@ void Catalog::AppendTable(Table &table)
 {
     Operation(kCatalogSource, "Append", [&] {
         data::Session &session = d->Session();
+        session.BeginRead();
         TablePrivate &shape = *table.d;
         const bool whole = shape.HasShapeOf(kShapes.size());
         if (!SameName(table.Name, data::kTableName) || !(whole || shape.HasShapeOf(kShapes.size() - 1)) ||
-            (shape.hasKey && !whole) || data::StateOfTable(session) != data::TableState::None)
+            (shape.hasKey && !whole) || data::Examine(session).table != data::TableState::None)
             RaiseBadShape();
         session.Write([&] {
             data::CreateTable(session, whole);
@@ -191,12 +186,14 @@ Table Catalog::TableNamed(const QString &name)
 {
     return Operation(kCatalogSource, "Item", [&] {
         data::Session &session = d->Session();
-        const data::TableState state = data::StateOfTable(session);
-        if (!SameName(name, data::kTableName) || state == data::TableState::None)
+        session.BeginRead();
+        const data::FileContent content = data::Examine(session);
+        if (!SameName(name, data::kTableName) || content.table == data::TableState::None)
             throw RuntimeError(RuntimeError::ItemNotFound);
         Table table;
         table.Name = QLatin1String(data::kTableName);
-        const std::size_t count = state == data::TableState::Whole ? kShapes.size() : kShapes.size() - 1;
+        const std::size_t count =
+            content.table == data::TableState::Whole ? kShapes.size() : kShapes.size() - 1;
         for (std::size_t i = 0; i < count; ++i) {
             Column column;
             column.Name = QLatin1String(kShapes.at(i).name);
@@ -209,7 +206,7 @@ Table Catalog::TableNamed(const QString &name)
             }
             table.d->columns.push_back(column);
         }
-        table.d->hasKey = data::HasIndex(session);
+        table.d->hasKey = content.hasIndex;
         table.d->session = d->session;
         return table;
     });

@@ -38,10 +38,10 @@ bool SourceHasIndex(const QString &sourcePath, const QString &drivePath)
 {
     Session source(sourcePath, drivePath, Session::Access::ReadOnly);
     source.BeginRead();
-    RequireMarks(source);
-    if (StateOfTable(source) != TableState::Whole)
+    const FileContent content = Examine(source);
+    if (content.table != TableState::Whole)
         RaiseCode(SQLITE_NOTADB);
-    return HasIndex(source);
+    return content.hasIndex;
 }
 
 void CopyRows(Session &session, bool withIndex)

@@ -31,11 +31,10 @@ std::shared_ptr<Session> OpenDictionaryFile(const QString &drivePath)
     const QString hostPath = files::HostPath(drivePath);
     auto session = std::make_shared<Session>(hostPath, drivePath, Session::Access::Existing);
     session->BeginRead();
-    RequireMarks(*session);
-    const TableState state = StateOfTable(*session);
-    if (state == TableState::Foreign)
+    const FileContent content = Examine(*session);
+    if (content.table == TableState::Foreign)
         RaiseCode(SQLITE_NOTADB);
-    if (state != TableState::Whole || HasIndex(*session))
+    if (content.table != TableState::Whole || content.hasIndex)
         return session;
     if (!session->IsWritable())
         return std::make_shared<Session>(IndexedCopyOf(hostPath), drivePath, Session::Access::ReadOnly);

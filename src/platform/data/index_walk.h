@@ -24,6 +24,9 @@ class IndexWalk
 public:
     explicit IndexWalk(Session &session) : m_session(session) {}
 
+    /// Raises -2147467259 where there is no index to be walked.
+    void Prepare() { StatementOf(Forward, Equal); }
+
     /// Each goes to a row and tells whether there is one; where there is none the key stays.
     bool First();
     bool Last();

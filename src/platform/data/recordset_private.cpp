@@ -14,12 +14,10 @@ namespace ADODB
 namespace
 {
 
-void RequireTable(data::Session &session, const QString &name)
+void RequireTableName(const QString &name)
 {
     if (name.compare(QLatin1String(data::kTableName), Qt::CaseInsensitive) != 0)
         throw RuntimeError(RuntimeError::InvalidStatement);
-    if (data::StateOfTable(session) != data::TableState::Whole)
-        data::RaiseCode(SQLITE_NOTADB);
 }
 
 } // namespace
@@ -33,18 +31,20 @@ const std::shared_ptr<data::Session> &ConnectionPrivate::Session() const
 
 void RecordsetPrivate::OpenTable(const std::shared_ptr<data::Session> &session, const QString &name)
 {
-    session->BeginRead();
-    RequireTable(*session, name);
-    m_rows = std::make_unique<data::TableCursor>(session);
+    RequireTableName(name);
+    auto rows = std::make_unique<data::TableCursor>(session);
+    m_table = rows.get();
+    m_rows = std::move(rows);
     m_writer = std::make_unique<data::RowWriter>(*session);
-    m_isTable = true;
     m_session = session;
 }
 
 void RecordsetPrivate::OpenBulk(const std::shared_ptr<data::Session> &session, const QString &name)
 {
+    RequireTableName(name);
     session->BeginRead();
-    RequireTable(*session, name);
+    if (data::Examine(*session).table != data::TableState::Whole)
+        data::RaiseCode(SQLITE_NOTADB);
     m_bulk = std::make_unique<data::BulkWriter>(session);
     m_rows = std::make_unique<data::StoredRowCursor>(session);
     m_session = session;
@@ -65,7 +65,7 @@ void RecordsetPrivate::Close()
         m_writer.reset();
         m_rows.reset();
         m_session.reset();
-        m_isTable = false;
+        m_table = nullptr;
         index.clear();
     };
     try {
@@ -95,12 +95,12 @@ data::Cursor &RecordsetPrivate::RowsToMove()
 void RecordsetPrivate::SetIndex(const QString &name)
 {
     RequireOpen();
-    if (!m_isTable)
+    if (m_table == nullptr)
         data::RaiseNotSupported();
     if (name.compare(QLatin1String(data::kIndexName), Qt::CaseInsensitive) != 0)
         throw RuntimeError(RuntimeError::ItemNotFound);
     index = QLatin1String(data::kIndexName);
-    m_rows = std::make_unique<data::TableCursor>(m_session);
+    m_table->Restart();
 }
 
 QVariant RecordsetPrivate::Value(data::Column column)
@@ -114,7 +114,7 @@ QVariant RecordsetPrivate::Value(data::Column column)
 void RecordsetPrivate::SetValue(data::Column column, const QVariant &value)
 {
     data::Cursor &rows = Rows();
-    if (!m_isTable && !m_bulk)
+    if (m_table == nullptr && !m_bulk)
         data::RaiseNotSupported();
     if (!m_pending) {
         // The row must be there before anything is said of it.
@@ -128,7 +128,7 @@ void RecordsetPrivate::SetValue(data::Column column, const QVariant &value)
 void RecordsetPrivate::AddNew()
 {
     RowsToMove();
-    if (!m_isTable && !m_bulk)
+    if (m_table == nullptr && !m_bulk)
         data::RaiseNotSupported();
     m_pending.emplace();
     m_adding = true;
@@ -164,7 +164,7 @@ void RecordsetPrivate::Update()
 void RecordsetPrivate::Delete()
 {
     data::Cursor &rows = Rows();
-    if (!m_isTable)
+    if (m_table == nullptr)
         data::RaiseNotSupported();
     m_pending.reset();
     const qint64 autoID = rows.CurrentID();

@@ -6,6 +6,7 @@
 #include "platform/data/pending_row.h"
 #include "platform/data/row_writer.h"
 #include "platform/data/session.h"
+#include "platform/data/table_cursor.h"
 
 #include <memory>
 #include <optional>
@@ -60,7 +61,7 @@ private:
     std::unique_ptr<data::BulkWriter> m_bulk;
     std::optional<data::PendingRow> m_pending;
     bool m_adding = false;
-    bool m_isTable = false;
+    data::TableCursor *m_table = nullptr; ///< m_rows, where they are the table's
 };
 
 } // namespace ADODB

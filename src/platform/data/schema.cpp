@@ -3,6 +3,7 @@
 #include "platform/data/operation.h"
 #include "platform/text/fold.h"
 
+#include <QtEndian>
 #include <sqlite3.h>
 #include <string>
 
@@ -34,25 +35,36 @@ int CompareWords(void * /*unused*/, int leftSize, const void *left, int rightSiz
 
 qint32 UserVersion() { return kFormatVersion << 16 | text::kFoldVersion; }
 
-/// The text with which an object was created; empty where there is none of that type and name.
-std::string SqlOf(Session &session, std::string_view type, std::string_view name)
-{
-    Prepared query =
-        session.Prepare("SELECT sql FROM sqlite_schema WHERE type = ?1 AND name = ?2 COLLATE NOCASE");
-    query.BindText(1, type);
-    query.BindText(2, name);
-    return query.Step() ? std::string(query.Text(0)) : std::string();
-}
+/// The marks of a file's header, read past SQLite: a statement for each costs as much as a seek.
+struct Header {
+    qint32 userVersion = 0;
+    qint32 applicationId = 0;
+};
 
-/// SQLite reads a last page that was cut off as if the rest of it were zero.
-void RequireWholePages(Session &session)
+Header ReadHeader(Session &session)
 {
+    constexpr sqlite3_int64 userVersionAt = 60;
+    constexpr int applicationIdBehind = 8;
+    std::array<uchar, 12> bytes{};
     sqlite3_file *file = nullptr;
     sqlite3_int64 size = 0;
     if (sqlite3_file_control(session.Database(), "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
-        file->pMethods == nullptr || file->pMethods->xFileSize(file, &size) != SQLITE_OK ||
-        size % kPageSize != 0)
+        file->pMethods == nullptr || file->pMethods->xFileSize(file, &size) != SQLITE_OK)
+        RaiseCode(SQLITE_CANTOPEN);
+    // SQLite reads a last page that was cut off as if the rest of it were zero.
+    if (size == 0 || size % kPageSize != 0)
         RaiseCode(SQLITE_NOTADB);
+    const int code = file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), userVersionAt);
+    if (code != SQLITE_OK)
+        RaiseCode(code);
+    return {qFromBigEndian<qint32>(bytes.data()), qFromBigEndian<qint32>(bytes.data() + applicationIdBehind)};
+}
+
+TableState StateOfTable(std::string_view sql)
+{
+    if (sql == TableSql(kTableName, true))
+        return TableState::Whole;
+    return sql == TableSql(kTableName, false) ? TableState::WithoutAutoID : TableState::Foreign;
 }
 
 } // namespace
@@ -95,7 +107,7 @@ void AddAutoID(Session &session)
 
 void CreateIndex(Session &session)
 {
-    if (HasIndex(session))
+    if (Examine(session).hasIndex)
         return;
     DropIndex(session);
     CreateIndexObject(session);
@@ -106,28 +118,23 @@ void CreateIndexObject(Session &session) { session.Run(kIndexSql); }
 
 void DropIndex(Session &session) { session.Run("DROP INDEX IF EXISTS WordID"); }
 
-TableState StateOfTable(Session &session)
+FileContent Examine(Session &session)
 {
-    const std::string sql = SqlOf(session, "table", kTableName);
-    if (sql.empty())
-        return TableState::None;
-    if (sql == TableSql(kTableName, true))
-        return TableState::Whole;
-    return sql == TableSql(kTableName, false) ? TableState::WithoutAutoID : TableState::Foreign;
-}
-
-bool HasIndex(Session &session)
-{
-    return session.NumberOf("PRAGMA user_version") == UserVersion() &&
-           SqlOf(session, "index", kIndexName) == kIndexSql;
-}
-
-void RequireMarks(Session &session)
-{
-    RequireWholePages(session);
-    if (session.NumberOf("PRAGMA application_id") != kApplicationId ||
-        session.NumberOf("PRAGMA user_version") >> 16 != kFormatVersion)
+    FileContent content;
+    // The query comes first: it takes the lock under which the header may be read.
+    Prepared query = session.Prepare("SELECT type, sql FROM sqlite_schema WHERE name COLLATE NOCASE IN "
+                                     "('Dictionary', 'WordID')");
+    while (query.Step()) {
+        if (query.Text(0) == "index")
+            content.hasIndex = query.Text(1) == kIndexSql;
+        else
+            content.table = query.Text(0) == "table" ? StateOfTable(query.Text(1)) : TableState::Foreign;
+    }
+    const Header header = ReadHeader(session);
+    if (header.applicationId != kApplicationId || header.userVersion >> 16 != kFormatVersion)
         RaiseCode(SQLITE_NOTADB);
+    content.hasIndex = content.hasIndex && header.userVersion == UserVersion();
+    return content;
 }
 
 } // namespace data

@@ -52,11 +52,13 @@ void DropIndex(Session &session);
 
 /// What of a dictionary a file holds.
 enum class TableState { None, WithoutAutoID, Whole, Foreign };
-TableState StateOfTable(Session &session);
-/// Whether the index stands, as it should be and under the present fold.
-bool HasIndex(Session &session);
-
-/// Raises -2147467259 unless the header bears the marks of a dictionary of this format.
-void RequireMarks(Session &session);
+struct FileContent {
+    TableState table = TableState::None;
+    /// Whether the index stands, as it should be and under the present fold.
+    bool hasIndex = false;
+};
+/// Looks at the file, within a read or write transaction. Raises -2147467259 unless its header bears
+/// the marks of a dictionary of this format.
+FileContent Examine(Session &session);
 
 } // namespace data

@@ -85,12 +85,14 @@ void Session::Close()
         ResetStatements();
         m_begin = Prepared();
         m_commit = Prepared();
-        // Statements that recordsets still hold keep a husk of the connection until they go.
+        // Statements that recordsets still hold keep a husk of the connection until they go; closing
+        // ends the transaction only where there are none.
         sqlite3 *database = m_database;
         m_database = nullptr;
         m_reading = m_writing = false;
         m_commitGroup = nullptr;
-        if (sqlite3_get_autocommit(database) == 0)
+        const bool isHeld = sqlite3_next_stmt(database, nullptr) != nullptr;
+        if (isHeld && sqlite3_get_autocommit(database) == 0)
             sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
         sqlite3_close_v2(database);
     };

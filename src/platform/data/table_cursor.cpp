@@ -10,6 +10,8 @@ namespace data
 TableCursor::TableCursor(std::shared_ptr<Session> session)
     : m_session(std::move(session)), m_walk(*m_session), m_row(*m_session)
 {
+    m_session->BeginRead();
+    m_walk.Prepare();
 }
 
 bool TableCursor::Eof()

@@ -13,7 +13,11 @@ namespace data
 class TableCursor : public Cursor
 {
 public:
+    /// Raises -2147467259 for a file that lacks the table or its index.
     explicit TableCursor(std::shared_ptr<Session> session);
+
+    /// Goes back to where it began.
+    void Restart() { m_place = Place::AtStart; }
 
     bool Eof() override;
     bool Bof() override;
