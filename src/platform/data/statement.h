@@ -3,7 +3,8 @@
 #include <QList>
 #include <QString>
 
-namespace data {
+namespace data
+{
 
 /// The columns of `Dictionary` in their order.
 enum Column : int { Word, Pronunciation, WordPhrase, Description, Example, AutoID, ColumnCount };
@@ -12,8 +13,7 @@ enum Column : int { Word, Pronunciation, WordPhrase, Description, Example, AutoI
 int ColumnNamed(QStringView name);
 
 /// One condition of a WHERE clause; all of them are joined by AND.
-struct Condition
-{
+struct Condition {
     enum class Operator { Equals, Like };
     Column column = Word;
     Operator op = Operator::Equals;
@@ -24,8 +24,7 @@ struct Condition
 /// A parsed statement of the dialect:
 /// SELECT [TOP n] * FROM Dictionary [WHERE condition {AND condition}] [ORDER BY Word [ASC][, AutoID [ASC]]]
 /// Words are recognised in any case; blanks between them are free.
-struct Statement
-{
+struct Statement {
     enum class Order { None, Word };
     int top = -1; ///< -1: no limit
     QList<Condition> conditions;
