@@ -14,6 +14,8 @@
 #include "presentation/target_caption.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QScrollBar>
 #include <cmath>
 
 namespace
@@ -65,6 +67,9 @@ void ApplyFont(QWidget *control, int slot, int points)
     palette.setColor(QPalette::WindowText, color);
     palette.setColor(QPalette::ButtonText, color);
     control->setPalette(palette);
+    // The colour is that of the text, not of a list's arrows.
+    for (QScrollBar *bar : control->findChildren<QScrollBar *>())
+        bar->setPalette(QApplication::palette());
 }
 
 void MoveTo(QWidget *control, int left)

@@ -17,6 +17,10 @@
 #include <QStyleFactory>
 #include <QTranslator>
 
+/// The pictures lie in a static library, which the linker would leave without them. (The macro wants
+/// the global namespace.)
+static void TakePictures() { Q_INIT_RESOURCE(wordmere); }
+
 Program::Program(Options options) : m_options(std::move(options))
 {
     if (m_options.applicationFolder.isEmpty())
@@ -69,6 +73,7 @@ void Program::PrepareProcess(const QString &shareFolder)
 
 void Program::PrepareApplication()
 {
+    TakePictures();
     QApplication::setApplicationName(QStringLiteral("Wordmere"));
     QApplication::setDesktopFileName(QStringLiteral("io.github.wordmere.Wordmere"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/wordmere.svg")));
