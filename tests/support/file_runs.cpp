@@ -3,10 +3,13 @@
 #include "tap.h"
 #include "watchdog.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 namespace
 {
@@ -20,6 +23,9 @@ public:
     void Run(const QString &program, const QStringList &arguments)
     {
         QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TMPDIR"), m_folder.path());
+        process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(program, arguments, QIODevice::ReadOnly);
         Follow(process);
@@ -90,6 +96,8 @@ private:
 
     Tap &m_tap;
     QString m_name;
+    // Holds the run's own folder, and removes it where the run crashes.
+    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/wordmere-XXXXXX")};
     QByteArray m_rest;
     bool m_planned = false, m_failed = false, m_killed = false;
 };

@@ -24,13 +24,12 @@ QString PageText(const QString &applicationFolder)
     return text::Decode(page.readAll());
 }
 
-/// The text shows what was asked for last, so a load in progress is waited for where that is safe.
-QString PaneText(Scenario &scenario)
+/// The pane with what was asked for last: a load in progress is waited for where that is safe.
+const browser::WebBrowser *SettledPane(Scenario &scenario)
 {
     if (Pane() && Pane()->IsLoading() && controls::RunningHandlers() == 0)
         scenario.Program().Settle();
-    const browser::WebBrowser *pane = Pane();
-    return pane ? pane->ShownText() : QString();
+    return Pane();
 }
 
 } // namespace
@@ -44,10 +43,12 @@ void AddPaneFunctions(FunctionTable &table)
         return scenario.Value(Pane() ? Pane()->TakeNavigations() : QStringList());
     };
     table[QStringLiteral("paneText")] = [](Scenario &scenario, const Arguments &) {
-        return QJSValue(PaneText(scenario));
+        const browser::WebBrowser *pane = SettledPane(scenario);
+        return QJSValue(pane ? pane->ShownText() : QString());
     };
-    table[QStringLiteral("paneAddress")] = [](Scenario &, const Arguments &) {
-        return QJSValue(Pane() ? Pane()->LocationURL() : QString());
+    table[QStringLiteral("paneAddress")] = [](Scenario &scenario, const Arguments &) {
+        const browser::WebBrowser *pane = SettledPane(scenario);
+        return QJSValue(pane ? pane->LocationURL() : QString());
     };
     table[QStringLiteral("execs")] = [](Scenario &scenario, const Arguments &) {
         return scenario.Value(Pane() ? Pane()->TakeCommands() : QList<int>());

@@ -30,7 +30,7 @@ constexpr QFile::Permissions kOwnerAll = QFile::ReadOwner | QFile::WriteOwner | 
 
 } // namespace
 
-RunFolder::RunFolder() : m_root(QDir::tempPath() + QStringLiteral("/wordmere-scenario-XXXXXX"))
+RunFolder::RunFolder() : m_root(QDir::tempPath() + QStringLiteral("/run-XXXXXX"))
 {
     if (!m_root.isValid())
         qFatal("no temporary folder: %s", qPrintable(m_root.errorString()));

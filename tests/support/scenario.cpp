@@ -61,36 +61,39 @@ void Scenario::Run(const QString &file)
 {
     m_file = file;
     m_watchdog = std::make_unique<Watchdog>(Watchdog::Allowance(), [this] { m_engine.setInterrupted(true); });
-    Evaluate(file);
+    const bool ran = Evaluate(file);
     m_boxes.NoteLeftovers();
     m_yields.NoteLeftovers();
     End();
-    const bool hung = m_watchdog->Barked();
-    m_tap.Point(!hung, hung ? QStringLiteral("takes longer than %1 s, at last in %2")
-                                  .arg(Watchdog::Allowance())
-                                  .arg(m_watchdog->Doing())
-                            : QStringLiteral("runs to its end"));
+    if (m_watchdog->Barked())
+        Fail(QStringLiteral("takes longer than %1 s, at last in %2")
+                 .arg(Watchdog::Allowance())
+                 .arg(m_watchdog->Doing()));
+    else if (ran)
+        m_tap.Point(true, QStringLiteral("runs to its end"));
     m_watchdog.reset();
 }
 
-void Scenario::Evaluate(const QString &file)
+bool Scenario::Evaluate(const QString &file)
 {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly)) {
         Fail(QStringLiteral("cannot be read: ") + source.errorString());
-        return;
+        return false;
     }
     QStringList stack;
     const QJSValue result = m_engine.evaluate(QString::fromUtf8(source.readAll()), file, 1, &stack);
-    if (result.isError() || !stack.isEmpty()) {
-        QStringList diagnostics{result.toString()};
-        if (result.isError())
-            diagnostics.append(
-                QStringLiteral("line %1").arg(result.property(QStringLiteral("lineNumber")).toInt()));
-        for (const QString &frame : std::as_const(stack))
-            diagnostics.append(QStringLiteral("in ") + frame);
-        Fail(QStringLiteral("JavaScript error: ") + result.toString(), diagnostics);
-    }
+    // The value may be an error that nobody threw; an interruption leaves no stack.
+    if (stack.isEmpty() && !m_watchdog->Barked())
+        return true;
+    QStringList diagnostics{result.toString()};
+    if (result.isError())
+        diagnostics.append(
+            QStringLiteral("line %1").arg(result.property(QStringLiteral("lineNumber")).toInt()));
+    for (const QString &frame : std::as_const(stack))
+        diagnostics.append(QStringLiteral("in ") + frame);
+    Fail(QStringLiteral("JavaScript error: ") + result.toString(), diagnostics);
+    return false;
 }
 
 void Scenario::End()

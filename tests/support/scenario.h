@@ -57,7 +57,8 @@ public:
 
 private:
     void InstallFunctions();
-    void Evaluate(const QString &file);
+    /// False when it was not run to its end.
+    bool Evaluate(const QString &file);
     void End();
     void InstallHooks();
     QString CallerIn(const QString &stack) const;

@@ -34,6 +34,6 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
     bool m_over = false, m_barked = false;
-    QString m_doing;
+    QString m_doing = QStringLiteral("the script itself");
     std::thread m_thread;
 };
