@@ -17,6 +17,8 @@ FindBar::FindBar(QWidget *parent)
       m_count(new QLabel(this))
 {
     setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Window);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *label = new QLabel(QStringLiteral("検索:"), this);
     QToolButton *close = MakeButton(QStringLiteral("×"), QStringLiteral("閉じる (Esc)"));
     close->setAccessibleName(QStringLiteral("閉じる"));

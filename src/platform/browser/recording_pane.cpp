@@ -3,10 +3,10 @@
 #include "platform/controls/white_base.h"
 #include "platform/text/shift_jis.h"
 
-#include <QTextDocumentFragment>
 #include <QFile>
 #include <QTextBrowser>
 #include <QTextCursor>
+#include <QTextDocumentFragment>
 
 namespace browser
 {

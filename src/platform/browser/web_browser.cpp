@@ -57,8 +57,9 @@ void WebBrowser::CreateView()
     m_pane = MakePane(this);
     m_findBar = new FindBar(this);
     m_findBar->hide();
-    layout()->addWidget(m_pane->View());
-    layout()->addWidget(m_findBar);
+    auto *rows = static_cast<QVBoxLayout *>(layout());
+    rows->addWidget(m_pane->View(), 1);
+    rows->addWidget(m_findBar);
     connect(m_pane.get(), &Pane::StatusChanged, this, &WebBrowser::StatusTextChange);
     connect(m_pane.get(), &Pane::TitleChanged, this, &WebBrowser::TitleChange);
     connect(m_pane.get(), &Pane::FindAsked, this, &WebBrowser::ShowFindBar);

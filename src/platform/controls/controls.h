@@ -121,6 +121,7 @@ class StatusBar : public QLabel
     Q_OBJECT
 public:
     explicit StatusBar(QWidget *parent = nullptr);
+    QSize sizeHint() const override;
     QString SimpleText() const { return m_text; }
     void SetSimpleText(const QString &text);
 

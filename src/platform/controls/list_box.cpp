@@ -244,7 +244,10 @@ bool ListBox::event(QEvent *event)
     // The viewport's events do not pass here; what the grip leaves alone does.
     if (m_sizingFrame && EdgeEvent(event))
         return true;
-    return QListView::event(event);
+    const bool handled = QListView::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
+        PlaceGrip();
+    return handled;
 }
 
 bool ListBox::EdgeEvent(QEvent *event)
@@ -273,16 +276,17 @@ void ListBox::DragEdgeTo(int x)
 {
     const QWidget *parent = parentWidget();
     const int widest = parent ? qMax(kNarrowest, parent->width() - geometry().left()) : maximumWidth();
-    const int wanted = qBound(kNarrowest, x + m_dragOffset, qMin(widest, maximumWidth()));
+    const int wanted = qBound(kNarrowest, x + m_dragOffset, qMax(kNarrowest, qMin(widest, maximumWidth())));
     if (wanted == width())
         return;
     resize(wanted, height());
     Q_EMIT EdgeDragged(wanted);
 }
 
-void ListBox::resizeEvent(QResizeEvent *event)
+void ListBox::updateGeometries()
 {
-    QListView::resizeEvent(event);
+    QListView::updateGeometries();
+    // A scroll bar that appears puts itself on top.
     PlaceGrip();
 }
 

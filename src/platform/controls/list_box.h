@@ -67,7 +67,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     bool event(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void updateGeometries() override;
 
 private:
     bool EdgeEvent(QEvent *event);

@@ -13,6 +13,8 @@ namespace controls
 namespace
 {
 
+constexpr int kStatusIndent = 3;
+
 bool IsPressingKey(const QKeyEvent &event)
 {
     const int key = event.key();
@@ -124,10 +126,16 @@ StatusBar::StatusBar(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    setMargin(2);
+    setIndent(kStatusIndent);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setAccessibleName(QStringLiteral("ステータス バー"));
     Elide();
+}
+
+QSize StatusBar::sizeHint() const
+{
+    constexpr int roomAroundText = 8;
+    return {0, fontMetrics().height() + roomAroundText};
 }
 
 void StatusBar::SetSimpleText(const QString &text)
@@ -152,7 +160,7 @@ void StatusBar::changeEvent(QEvent *event)
 void StatusBar::Elide()
 {
     const int room =
-        contentsRect().width() - 2 * margin() - fontMetrics().horizontalAdvance(QLatin1Char('x'));
+        contentsRect().width() - 2 * kStatusIndent - fontMetrics().horizontalAdvance(QLatin1Char('x'));
     const QString line =
         QString(m_text).replace(QLatin1Char('\n'), QLatin1Char(' ')).remove(QLatin1Char('\r'));
     const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, qMax(0, room));
@@ -160,8 +168,6 @@ void StatusBar::Elide()
         setText(shown);
     setToolTip(shown == line ? QString() : m_text);
     setAccessibleDescription(m_text);
-    constexpr int roomAroundText = 8;
-    setFixedHeight(fontMetrics().height() + roomAroundText);
 }
 
 QFont MakeFont(const QString &name, int points, bool bold, bool italic, bool strikeout, bool underline)

@@ -233,6 +233,20 @@ TEST_F(ListBoxTest, RightEdgeIsDraggedWithinItsParent)
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(ListBoxTest, GripLiesOverTheScrollBar)
+{
+    list.SetSizingFrame(true);
+    Fill(Numbers(100));
+    QApplication::processEvents();
+    ASSERT_TRUE(list.verticalScrollBar()->isVisible());
+    list.resize(210, 150);
+    QApplication::processEvents();
+    const QWidget *grip = list.childAt(list.width() - 1, 75);
+    ASSERT_NE(grip, nullptr);
+    EXPECT_EQ(grip->cursor().shape(), Qt::SplitHCursor);
+    EXPECT_EQ(grip->geometry(), QRect(206, 0, 4, 150));
+}
+
 TEST_F(ListBoxTest, WithoutSizingFrameTheEdgeStays)
 {
     input::Mouse(list, QEvent::MouseButtonPress, {198, 100});
