@@ -4,6 +4,7 @@
 #include "platform/host/host.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
+#include "search/pure/entry_text.h"
 
 void frmFind::mnuExit_Click() { Unload(); }
 
@@ -33,5 +34,5 @@ void frmFind::mnuPageSettings_Click() { ExecPrinting(browser::PageSetup); }
 void frmFind::Picture12_MouseDown()
 {
     if (host::ClipboardHasText())
-        txtFind->SetText(text::Trim(host::ClipboardText()));
+        txtFind->SetText(text::Trim(OneLine(host::ClipboardText())));
 }

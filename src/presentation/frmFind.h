@@ -172,6 +172,8 @@ private:
     void PlaceFixedControls();
     int InnerWidth() const;
     int InnerHeight() const;
+    /// Lets the list's edge be dragged no farther than the pane can give way.
+    void LimitListWidth();
     void PlaceEntryRow();
     /// The framed area of the pane, in pixels of the surface.
     QRect PaneFrame() const;

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QLayout>
+#include <algorithm>
 
 using controls::Place;
 using controls::PlaceOf;
@@ -32,8 +33,15 @@ void frmFind::PlaceFixedControls()
     RestorePaneLayout();
 }
 
+void frmFind::LimitListWidth()
+{
+    const int widest = InnerWidth() - kMargin - kListToPane - kLeastPane;
+    List1->setMaximumWidth(std::max(0, controls::Pixels(widest)));
+}
+
 void frmFind::RestorePaneLayout()
 {
+    LimitListWidth();
     Place(List1, ListPlace(InnerHeight()));
     Place(WebBrowser1, PanePlace(InnerWidth(), InnerHeight()));
     RememberLayout();
@@ -85,6 +93,10 @@ void frmFind::ToggleHeadwordList()
         PlaceEntryRow();
         return;
     }
+    // With the list hidden, the window may have become too narrow for it.
+    const int narrowest = controls::Pixels(kPaneLeft + kLeastPane);
+    if (width() < narrowest)
+        resize(narrowest, height());
     Shared.ListHidden = 0;
     List1->show();
     RestorePaneLayout();
@@ -137,6 +149,7 @@ void frmFind::Form_Resize()
         return;
     }
     layout()->activate();
+    LimitListWidth();
     TwipRect list = PlaceOf(List1);
     list.height = InnerHeight() - list.top - kBelowList;
     Place(List1, list);

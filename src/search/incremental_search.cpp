@@ -4,6 +4,7 @@
 #include "platform/browser/web_browser.h"
 #include "platform/data/adodb.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/failure/runtime_error.h"
 #include "platform/files/line_file.h"
 #include "platform/host/host.h"
 #include "platform/text/shift_jis.h"
@@ -11,6 +12,7 @@
 #include "presentation/frmFind.h"
 #include "presentation/page_file.h"
 #include "presentation/pure/entry_page.h"
+#include "search/pure/entry_text.h"
 #include "search/pure/like_text.h"
 
 #include <QScopeGuard>
@@ -88,6 +90,16 @@ void WriteListedEntries(ADODB::Recordset &table, qsizetype first, qsizetype last
     page.Finish();
 }
 
+/// Empties the arrays of the list and gives them its length and the spare element; raises 9 for a length
+/// below zero.
+void SizeListArrays()
+{
+    if (Shared.IncListCount < 0)
+        throw RuntimeError(RuntimeError::SubscriptOutOfRange);
+    Shared.IncWords = QStringList(Shared.IncListCount + 1);
+    Shared.IncAutoIDs = QList<std::int32_t>(Shared.IncListCount + 1);
+}
+
 /// Keeps a list from being painted while it is filled, however the filling ends.
 class ListFill
 {
@@ -108,7 +120,7 @@ void frmFind::txtFind_Change()
     if (Shared.SearchMode != ModeIncremental)
         return;
     const QString typed = txtFind->Text();
-    const QString word = text::LTrim(typed);
+    const QString word = text::LTrim(OneLine(typed));
     if (word != typed) {
         // Raises the event again, with the text that counts.
         const auto caret = txtFind->cursorPosition() - static_cast<int>(typed.size() - word.size());
@@ -194,8 +206,7 @@ void frmFind::FillFrom(ADODB::Recordset &table)
     std::optional<ListFill> fill;
     if (refill) {
         fill.emplace(*List1);
-        Shared.IncWords = QStringList(Shared.IncListCount + 1);
-        Shared.IncAutoIDs = QList<std::int32_t>(Shared.IncListCount + 1);
+        SizeListArrays();
         List1->Clear();
     }
     EntryPage page;
@@ -233,8 +244,7 @@ void frmFind::ListWordsDescriptions2(const QString &text)
         ADODB::Recordset &rows = *Shared.ViewRecordset;
         rows.Open(LimitedIncrementalStatement(Shared.SearchTarget, text, Shared.IncListCount),
                   *Shared.ViewConnection, ADODB::adOpenStatic);
-        Shared.IncWords = QStringList(Shared.IncListCount + 1);
-        Shared.IncAutoIDs = QList<std::int32_t>(Shared.IncListCount + 1);
+        SizeListArrays();
         if (rows.Eof()) {
             CloseView();
             StatusBar1->SetSimpleText(QString());
