@@ -11,6 +11,11 @@ namespace
 
 QString ErrorTitle() { return QStringLiteral("エラー"); }
 
+void ShowFailure(const RuntimeError &failure)
+{
+    dialogs::MsgBox(FailureText(failure), dialogs::OKOnly, ErrorTitle());
+}
+
 } // namespace
 
 QString FailureText(const RuntimeError &failure)
@@ -72,7 +77,16 @@ void ShowRecords(const std::function<void()> &procedure)
             failure.number() == RuntimeError::InvalidCall)
             ShowMissingDatabase(MissingDatabaseHint());
         else
-            dialogs::MsgBox(FailureText(failure), dialogs::OKOnly, ErrorTitle());
+            ShowFailure(failure);
+    }
+}
+
+void ShowFailures(const std::function<void()> &procedure)
+{
+    try {
+        procedure();
+    } catch (const RuntimeError &failure) {
+        ShowFailure(failure);
     }
 }
 

@@ -21,6 +21,9 @@ QString MissingDatabaseHint();
 /// others show the generic box. Nothing is raised.
 void ShowRecords(const std::function<void()> &procedure);
 
+/// Runs a procedure whose failures all show the generic box. Nothing is raised.
+void ShowFailures(const std::function<void()> &procedure);
+
 /// Runs a step; its failure goes to the default handling.
 void GuardStep(const std::function<void()> &step);
 

@@ -35,8 +35,9 @@ void frmFind::PlaceFixedControls()
 
 void frmFind::LimitListWidth()
 {
-    const int widest = InnerWidth() - kMargin - kListToPane - kLeastPane;
-    List1->setMaximumWidth(std::max(0, controls::Pixels(widest)));
+    using controls::Pixels;
+    const int beside = Pixels(kMargin) + Pixels(kListToPane) + Pixels(kLeastPane);
+    List1->setMaximumWidth(std::max(0, m_surface->width() - beside));
 }
 
 void frmFind::RestorePaneLayout()

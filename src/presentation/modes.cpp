@@ -32,7 +32,7 @@ void frmFind::CheckModeMenu(std::uint8_t mode)
 
 void frmFind::SetIncrementalMode()
 {
-    ShowRecords([this] {
+    ShowFailures([this] {
         CheckModeMenu(ModeIncremental);
         Shared.SearchMode = ModeIncremental;
         setWindowTitle(QStringLiteral("Wordmere"));
