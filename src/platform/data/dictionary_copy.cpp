@@ -1,8 +1,8 @@
 #include "platform/data/dictionary_file.h"
-#include "platform/data/index_walk.h"
 #include "platform/data/long_work.h"
 #include "platform/data/operation.h"
 #include "platform/data/schema.h"
+#include "platform/files/drive_path.h"
 #include "platform/text/fold.h"
 
 #include <QFile>
@@ -34,9 +34,10 @@ void Attach(Session &session, const QString &sourcePath)
 }
 
 /// Whether the source's index can be taken over as it stands.
-bool SourceHasIndex(const QString &sourcePath, const QString &drivePath)
+bool SourceHasIndex(const QString &sourcePath)
 {
-    Session source(sourcePath, drivePath, Session::Access::ReadOnly);
+    // Opened as any other dictionary, so that a write that a crash cut short is taken back first.
+    Session source(sourcePath, files::DrivePath(sourcePath), Session::Access::Existing);
     source.BeginRead();
     const FileContent content = Examine(source);
     if (content.table != TableState::Whole)
@@ -116,7 +117,7 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
 void CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
 {
     RequireNothingAt(targetPath);
-    const bool withIndex = SourceHasIndex(sourcePath, targetDrivePath);
+    const bool withIndex = SourceHasIndex(sourcePath);
     Session session(targetPath, targetDrivePath, Session::Access::Create);
     try {
         CopyInto(session, sourcePath, withIndex);

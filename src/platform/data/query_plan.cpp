@@ -227,12 +227,16 @@ public:
     {
         if (!m_collected)
             Collect();
-        if (m_next == m_keys.size())
-            return false;
-        const Key &key = m_keys[m_next++];
-        hit = Hit();
-        hit.autoID = key.autoID;
-        return true;
+        // A row that has gone since it was collected is left out.
+        while (m_next < m_keys.size()) {
+            const qint64 autoID = m_keys[m_next++].autoID;
+            if (!m_row.Load(autoID))
+                continue;
+            hit = Hit();
+            hit.autoID = autoID;
+            return true;
+        }
+        return false;
     }
 
     void Restart() override { m_next = 0; }

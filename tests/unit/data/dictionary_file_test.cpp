@@ -119,6 +119,7 @@ TEST_F(DictionaryFile, MissingOrOldIndexIsBuiltAtOpening)
         EXPECT_EQ(std::stoi(AskRaw("PRAGMA user_version")), 65536 + text::kFoldVersion);
         All();
         EXPECT_EQ(busy.size(), 2U);
+        ADODB::EngineHooks() = {};
     }
 }
 

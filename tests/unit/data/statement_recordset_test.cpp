@@ -183,6 +183,26 @@ TEST_F(StatementRecordset, ResumesAfterReleaseAndWrites)
     }
 }
 
+TEST_F(StatementRecordset, SortedRowsThatWentAreLeftOut)
+{
+    FillAnimals();
+    ADODB::Connection connection;
+    connection.Open(ConnectionTo());
+    const auto rows = connection.Execute(
+        u"SELECT TOP 9 * FROM Dictionary WHERE Word Like '%_%' AND Description Like '%犬%' ORDER BY Word ASC"_s);
+    EXPECT_EQ(rows->Fields().Item(u"Word"_s).Text(), u"cat"_s);
+    const auto writer = OpenTable();
+    writer->rows.Seek(u"dog"_s, 1, ADODB::adSeekFirstEQ);
+    writer->rows.Delete();
+    rows->MoveNext();
+    EXPECT_EQ(rows->Fields().Item(u"Word"_s).Text(), u"dog days"_s);
+    writer->rows.Seek(u"dog days"_s, 4, ADODB::adSeekFirstEQ);
+    writer->rows.Delete();
+    EXPECT_EQ(Raised([&] { rows->Fields().Item(u"Word"_s).Text(); }), 3021);
+    rows->MoveNext();
+    EXPECT_TRUE(rows->Eof());
+}
+
 TEST_F(StatementRecordset, InvalidStatementsAreRefused)
 {
     FillAnimals();
