@@ -28,7 +28,10 @@ void BuildIndex(Session &session)
 
 std::shared_ptr<Session> OpenDictionaryFile(const QString &drivePath)
 {
-    const QString hostPath = files::HostPath(drivePath);
+    // A drive that the host lacks is one more place where the file is not.
+    const QString hostPath = files::HostPathOrEmpty(drivePath);
+    if (hostPath.isEmpty())
+        RaiseCode(SQLITE_CANTOPEN);
     auto session = std::make_shared<Session>(hostPath, drivePath, Session::Access::Existing);
     session->BeginRead();
     const FileContent content = Examine(*session);

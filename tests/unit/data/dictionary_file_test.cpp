@@ -45,7 +45,7 @@ TEST_F(DictionaryFile, MissingFilesAreNotCreated)
         connection.Open(u"Data Source=Q:\\a.mdb;"_s);
         ADD_FAILURE();
     } catch (const RuntimeError &error) {
-        EXPECT_EQ(error.number(), RuntimeError::PathNotFound);
+        EXPECT_EQ(error.number(), kCannotOpen);
         EXPECT_EQ(error.source(), u"ADODB.Connection"_s);
     }
     EXPECT_EQ(connection.State(), ADODB::adStateClosed);
