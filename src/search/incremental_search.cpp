@@ -233,8 +233,12 @@ void frmFind::FillFrom(ADODB::Recordset &table)
 
 void frmFind::ListWordsDescriptions2(const QString &text)
 {
-    const auto pointerBack = qScopeGuard([] { host::SetMousePointer(host::PointerDefault); });
     ShowRecords([&] {
+        // Also before a failure is told.
+        const auto done = qScopeGuard([this] {
+            host::SetMousePointer(host::PointerDefault);
+            StatusBar1->SetSimpleText(QString());
+        });
         StatusBar1->SetSimpleText(QStringLiteral("検索中..."));
         host::SetMousePointer(host::PointerHourglass);
         List1->Clear();
@@ -247,7 +251,6 @@ void frmFind::ListWordsDescriptions2(const QString &text)
         SizeListArrays();
         if (rows.Eof()) {
             CloseView();
-            StatusBar1->SetSimpleText(QString());
             return;
         }
         const qsizetype count = FillFromStatement(rows);
@@ -258,7 +261,6 @@ void frmFind::ListWordsDescriptions2(const QString &text)
         if (Shared.ListHidden == 0)
             List1->show();
         CloseView();
-        StatusBar1->SetSimpleText(QString());
     });
 }
 

@@ -39,7 +39,11 @@ check(pattern(), ["[bc]at%", "[a-b]%", "[[]s%"], "as they were typed");
 check(found("sic]"), [], "a closing bracket alone is literal");
 
 // An unbalanced bracket is told, key by key.
-answer("OK");
+let atTheBox = null;
+answer(() => {
+    atTheBox = [pointer(), status()];
+    return "OK";
+});
 check(found("["), [], "an open bracket is no pattern");
 const shown = boxes();
 check(shown.length, 1, "one box");
@@ -50,7 +54,8 @@ check(shown[0].text,
 check(shown[0].buttons, ["OK"], "its button");
 check(shown[0].icon, 0, "no icon");
 check(shown[0].beep, 0, "no beep");
-check(pointer(), 0, "the pointer is the usual one");
+check(atTheBox, [0, ""], "pointer and status bar are the usual ones while it is read");
+check(status(), "", "and behind it");
 check(text("frmFind.txtFind"), "[", "the text stays");
 check(found("cat"), ["cat"], "and the next change works");
 check(status(), "", "with an empty status bar");

@@ -39,7 +39,7 @@ near(bounds("frmFind.WebBrowser1").left, 3720, "with the pane");
 
 // The extremes leave both list and pane something.
 dragListEdge(30000);
-ok(bounds("frmFind.List1").width <= innerWidth() - 370, "the widest: " + bounds("frmFind.List1").width);
+ok(bounds("frmFind.List1").width <= innerWidth() - 355, "the widest: " + bounds("frmFind.List1").width);
 ok(bounds("frmFind.WebBrowser1").width > 0, "leaves a pane: " + bounds("frmFind.WebBrowser1").width);
 checkPane("widest");
 dragListEdge(15);
