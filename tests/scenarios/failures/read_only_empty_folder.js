@@ -2,13 +2,8 @@
 for (const file of ["Help.HLP", "favorite.dat"])
     remove(appFile(file));
 makeReadOnly(appFile(""));
-let count = 0;
-const goOn = () => {
-    ++count;
-    answer(goOn);
-    return "OK";
-};
-answer(goOn);
+for (let i = 0; i < 8; ++i)
+    answer("OK");
 start({bare: true});
 const shown = boxes();
 const denied = "エラー番号  70 Wordmere でエラーが発生しました。\r書き込みできません。";
@@ -24,4 +19,3 @@ for (const file of ["FontDefi.dat", "sscDefi.dat", "ListDefi.dat", "lexicons.dat
     check(exists(appFile(file)), false, file + " is not there");
 exit();
 check(boxes(), [], "the end has nothing to save");
-check(count, 8, "eight boxes in all");
