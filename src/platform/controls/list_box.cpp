@@ -222,8 +222,11 @@ quint32 ListBox::ItemFromPoint(const QPoint &point) const
 void ListBox::SetSizingFrame(bool on)
 {
     m_sizingFrame = on;
-    if (on && !m_grip)
+    if (on && !m_grip) {
         m_grip = new Grip(this);
+        for (const QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()})
+            bar->parentWidget()->installEventFilter(this);
+    }
     if (m_grip)
         m_grip->setVisible(on);
     PlaceGrip();
@@ -283,11 +286,12 @@ void ListBox::DragEdgeTo(int x)
     Q_EMIT EdgeDragged(wanted);
 }
 
-void ListBox::updateGeometries()
+bool ListBox::eventFilter(QObject *watched, QEvent *event)
 {
-    QListView::updateGeometries();
-    // A scroll bar that appears puts itself on top.
-    PlaceGrip();
+    // Every layout puts the scroll bars on top.
+    if (event->type() == QEvent::ZOrderChange && m_grip && watched != m_grip)
+        m_grip->raise();
+    return QListView::eventFilter(watched, event);
 }
 
 void ListBox::mousePressEvent(QMouseEvent *event)

@@ -67,7 +67,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     bool event(QEvent *event) override;
-    void updateGeometries() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool EdgeEvent(QEvent *event);

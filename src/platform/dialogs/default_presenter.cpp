@@ -167,7 +167,7 @@ void LabelFileDialog(QFileDialog &dialog, const QString &acceptWord)
 
 QString StartFolder(const QString &drivePath)
 {
-    const QString asked = drivePath.isEmpty() ? QString() : files::HostPathOrEmpty(drivePath);
+    QString asked = drivePath.isEmpty() ? QString() : files::HostPathOrEmpty(drivePath);
     if (!asked.isEmpty() && QFileInfo(asked).isDir())
         return asked;
     return lastFolder.isEmpty() ? QDir::homePath() : lastFolder;

@@ -26,7 +26,7 @@ bool IsPrivateFolder(const QString &path)
 QString LockFolder()
 {
     const QString user = QString::number(geteuid());
-    const QString session = QStringLiteral("/run/user/") + user;
+    QString session = QStringLiteral("/run/user/") + user;
     if (IsPrivateFolder(session) && access(QFile::encodeName(session).constData(), W_OK) == 0)
         return session;
     const QString own = QStringLiteral("/tmp/wordmere-") + user;

@@ -241,10 +241,11 @@ TEST_F(ListBoxTest, GripLiesOverTheScrollBar)
     ASSERT_TRUE(list.verticalScrollBar()->isVisible());
     list.resize(210, 150);
     QApplication::processEvents();
-    const QWidget *grip = list.childAt(list.width() - 1, 75);
+    const QWidget *grip = list.childAt(list.width() - 4, 75);
     ASSERT_NE(grip, nullptr);
     EXPECT_EQ(grip->cursor().shape(), Qt::SplitHCursor);
     EXPECT_EQ(grip->geometry(), QRect(206, 0, 4, 150));
+    EXPECT_NE(list.childAt(list.width() - 5, 75), grip);
 }
 
 TEST_F(ListBoxTest, WithoutSizingFrameTheEdgeStays)
