@@ -109,11 +109,12 @@ void frmFind::WriteFontFile(const QString &name)
 
 void frmFind::LoadFonts()
 {
+    // Before anything can fail, so that every slot has a font.
+    SetDefaultFonts();
     if (files::Exists(AppFilePath(FontFile()))) {
         ReadFontFile(FontFile());
         return;
     }
-    SetDefaultFonts();
     WriteFontFile(FontFile());
     CreateHTMLHeader();
 }

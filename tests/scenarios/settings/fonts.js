@@ -32,9 +32,9 @@ check(readBytes(appFile("FontDefi.dat")), fonts, "the end does not write it");
 // A name that fills its field, and one padded with NUL.
 const full = "N".repeat(30);
 writeBytes(appFile("FontDefi.dat"), record(full, 9, 0, 0, 0, 0, 0) + "Short" + "\x00".repeat(25) +
-    fonts.slice(44 + 30));
+    fonts.slice(44 + 30, 88) + pad("Caf&#xE9;", 30) + fonts.slice(88 + 30));
 start();
-check(state("FontNames").slice(0, 2), [full, "Short"], "the whole field; NUL pads like a blank");
+check(state("FontNames").slice(0, 3), [full, "Short", "Café"], "a full field, one with NUL, one beyond the code page");
 exit();
 
 // A file cut short: the records that are missing have no name and no size; the program stands it.
