@@ -76,6 +76,8 @@ void frmFind::MakeMenus()
             menu = new QMenu(row.caption, this);
             action = menu->menuAction();
             m_menuBar->addAction(action);
+        } else if (menu == nullptr) {
+            continue; // The table begins with a menu.
         } else if (row.kind == MenuRow::Kind::Separator) {
             action = menu->addSeparator();
         } else {
@@ -89,8 +91,9 @@ void frmFind::MakeMenus()
         m_menus.insert(row.name, action);
     }
     m_popup = menu;
-    m_menuBar->removeAction(m_popup->menuAction());
-    m_popup->menuAction()->setVisible(false);
+    QAction *popupEntry = Menu(QStringLiteral("mPopup"));
+    m_menuBar->removeAction(popupEntry);
+    popupEntry->setVisible(false);
 
     const Accelerator accelerators[] = {
         {u"mnuCopy", QKeySequence::Copy},

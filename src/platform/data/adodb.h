@@ -60,7 +60,8 @@ ConnectionPrivate *Impl(Connection &connection);
 class Field
 {
 public:
-    /// The value: QString, int, or an invalid QVariant for null. Raises 3021 without a current row.
+    /// The value: QString, int, or an invalid QVariant for null. Raises 3021 without a current row,
+    /// -2147467259 in a table without any row.
     QVariant Value() const;
     /// The value as text, empty for null.
     QString Text() const;

@@ -115,6 +115,10 @@ void TableCursor::Stand(bool onRow, Place otherwise)
 void TableCursor::RequireRow()
 {
     Settle();
+    // A dictionary without a record is no use to whoever reads it, and is told as one that is missing.
+    if (m_place == Place::Empty)
+        throw RuntimeError(RuntimeError::CannotOpenDatabase, RuntimeError::defaultSource(),
+                           QStringLiteral("レコードが一件も登録されていません。"));
     if (m_place != Place::OnRow || m_rowLost || !RowIsThere())
         throw RuntimeError(RuntimeError::NoCurrentRow);
 }

@@ -70,7 +70,7 @@ TEST_F(TableRecordset, EmptyTableIsAtBothEnds)
     view->rows.MoveFirst();
     view->rows.MoveLast();
     EXPECT_TRUE(view->rows.Eof());
-    EXPECT_EQ(Raised([&] { view->Value("Word"); }), 3021);
+    EXPECT_EQ(Raised([&] { view->Value("Word"); }), -2147467259);
     EXPECT_EQ(Raised([&] { view->rows.MoveNext(); }), 3021);
     view->rows.Seek(u"a"_s, 1, ADODB::adSeekBeforeEQ);
     EXPECT_TRUE(view->rows.Eof());
