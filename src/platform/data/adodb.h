@@ -10,10 +10,16 @@
 /// Failures: -2147467259 (the file cannot be opened, is locked or is no dictionary), -2147217900
 /// (invalid statement or pattern), -2147217887 (a value that a column does not take), 3021 (no
 /// current row), 3265 (no such column), 3704/3705 (closed/open object).
-namespace ADODB {
+namespace ADODB
+{
 
 enum CursorTypeEnum : int { adOpenForwardOnly = 0, adOpenKeyset = 1, adOpenDynamic = 2, adOpenStatic = 3 };
-enum LockTypeEnum : int { adLockUnspecified = -1, adLockReadOnly = 1, adLockPessimistic = 2, adLockOptimistic = 3 };
+enum LockTypeEnum : int {
+    adLockUnspecified = -1,
+    adLockReadOnly = 1,
+    adLockPessimistic = 2,
+    adLockOptimistic = 3
+};
 enum CommandTypeEnum : int { adCmdUnspecified = -1, adCmdText = 1, adCmdTable = 2, adCmdTableDirect = 512 };
 enum SeekEnum : int { adSeekFirstEQ = 1, adSeekBeforeEQ = 16 };
 enum ObjectStateEnum : int { adStateClosed = 0, adStateOpen = 1, adStateExecuting = 4 };
@@ -140,8 +146,7 @@ private:
 };
 
 /// What the engine asks of the program around it. All are empty at first.
-struct Hooks
-{
+struct Hooks {
     /// Called about every 50 ms in long work of the engine (building an index, compacting).
     std::function<void()> progress;
     /// Called with true before and false after such work.

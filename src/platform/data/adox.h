@@ -9,7 +9,8 @@
 #include <vector>
 
 /// Making dictionary files: catalogue, table, columns and the key.
-namespace ADOX {
+namespace ADOX
+{
 
 enum KeyTypeEnum : int { adKeyPrimary = 1 };
 
@@ -34,8 +35,7 @@ private:
 };
 
 /// A key to be appended.
-struct Key
-{
+struct Key {
     QString Name;
     int Type = adKeyPrimary;
     QString RelatedTable;

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace JRO {
+namespace JRO
+{
 
 /// Compaction of dictionary files.
 class JetEngine

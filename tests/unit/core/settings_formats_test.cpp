@@ -1,5 +1,4 @@
 #include "core/pure/app_files.h"
-#include "core/pure/catalogue_record.h"
 #include "core/pure/settings_formats.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/application_folder.h"
@@ -108,28 +107,6 @@ TEST(CharacterId, IsTheNameBeforeItsLastPoint)
     EXPECT_EQ(CharacterIdFromFile(QStringLiteral("a.b.acs")), QStringLiteral("a.b"));
     EXPECT_EQ(CharacterIdFromFile(QStringLiteral("abc")), QStringLiteral("abc"));
     EXPECT_EQ(CharacterIdFromFile(QString()), QString());
-}
-
-TEST(LexiconRecord, GoesThroughItsRecord)
-{
-    const Lexicon lexicon{QStringLiteral("英和"), QStringLiteral("Z:\\dic\\a.mdb"), -1, -1};
-    const QByteArray record = EncodeLexicon(lexicon);
-    ASSERT_EQ(record.size(), 309);
-    EXPECT_EQ(record.first(5), QByteArray::fromHex("8970986120"));
-    EXPECT_EQ(record.sliced(305), QByteArray::fromHex("ffff0000"));
-    const Lexicon read = DecodeLexicon(record);
-    EXPECT_EQ(read.DicName, lexicon.DicName);
-    EXPECT_EQ(read.DicPath, lexicon.DicPath);
-    EXPECT_EQ(read.IsSelected, -1);
-    EXPECT_EQ(read.IsDeleted, 0);
-}
-
-TEST(LexiconRecord, DropsPaddingOfEveryKind)
-{
-    QByteArray record = EncodeLexicon({QStringLiteral("a"), QStringLiteral("b"), 0, 0});
-    record.replace(1, 4, QByteArray::fromHex("81400020"));
-    record.replace(49, 1, QByteArray(1, '\0'));
-    EXPECT_EQ(DecodeLexicon(record).DicName, QStringLiteral("a"));
 }
 
 TEST(AnsiByteLen, CountsBytesOfARecord)
