@@ -1,0 +1,107 @@
+#include "core/pure/dictionary_file.h"
+
+#include "platform/data/adox.h"
+#include "platform/failure/runtime_error.h"
+#include "platform/files/drive_path.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class NewDictionary : public testing::Test
+{
+protected:
+    NewDictionary() { CreateDictionaryFile(m_path); }
+
+    void SetUp() override
+    {
+        m_connection.Open(ViewConnectionString(m_path));
+        OpenTableByIndex(m_connection, m_table);
+    }
+
+    void Add(const QString &word)
+    {
+        m_table.AddNew();
+        m_table.Fields().Item(u"Word"_s).SetValue(word);
+        m_table.Fields().Item(u"WordPhrase"_s).SetValue(1);
+        m_table.Update();
+    }
+    /// Headword and number of the current row.
+    std::pair<QString, int> Row()
+    {
+        return {m_table.Fields().Item(u"Word"_s).Text(), m_table.Fields().Item(u"AutoID"_s).Value().toInt()};
+    }
+    std::vector<std::pair<QString, int>> Rows()
+    {
+        std::vector<std::pair<QString, int>> rows;
+        for (m_table.MoveFirst(); !m_table.Eof(); m_table.MoveNext())
+            rows.push_back(Row());
+        return rows;
+    }
+
+    using RowList = std::vector<std::pair<QString, int>>;
+
+    QTemporaryDir m_folder;
+    QString m_path = files::DrivePath(m_folder.filePath(u"new.mdb"_s));
+    ADODB::Connection m_connection;
+    ADODB::Recordset m_table;
+};
+
+} // namespace
+
+TEST_F(NewDictionary, HasItsColumnsInOrderAndNoRows)
+{
+    ADOX::Catalog catalog;
+    catalog.SetActiveConnection(m_connection);
+    EXPECT_EQ(catalog.TableNamed(u"Dictionary"_s).ColumnNames(),
+              QStringList({u"Word"_s, u"Pronunciation"_s, u"WordPhrase"_s, u"Description"_s, u"Example"_s,
+                           u"AutoID"_s}));
+    EXPECT_TRUE(m_table.Eof());
+    EXPECT_TRUE(m_table.Bof());
+}
+
+TEST_F(NewDictionary, IsNotMadeOverAnother)
+{
+    Add(u"kept"_s);
+    EXPECT_THROW(CreateDictionaryFile(m_path), RuntimeError);
+    EXPECT_EQ(Rows(), RowList({{u"kept"_s, 1}}));
+}
+
+TEST_F(NewDictionary, OrdersEqualHeadwordsByNumber)
+{
+    for (const QString &word : {u"same"_s, u"other"_s, u"same"_s, u"Same"_s})
+        Add(word);
+    EXPECT_EQ(Rows(), RowList({{u"other"_s, 2}, {u"same"_s, 1}, {u"same"_s, 3}, {u"Same"_s, 4}}));
+}
+
+TEST_F(NewDictionary, FindsAKeyOnlyAsItIs)
+{
+    for (const QString &word : {u"bee"_s, u"bee"_s, u"cow"_s})
+        Add(word);
+    m_table.Seek(u"bee"_s, 2, ADODB::adSeekFirstEQ);
+    EXPECT_EQ(Row(), std::pair(u"bee"_s, 2));
+    m_table.Delete();
+    m_table.Seek(u"bee"_s, 2, ADODB::adSeekFirstEQ);
+    EXPECT_TRUE(m_table.Eof()) << "a pair that was deleted";
+    m_table.Seek(u"bee"_s, 3, ADODB::adSeekFirstEQ);
+    EXPECT_TRUE(m_table.Eof()) << "the number of another headword";
+}
+
+TEST_F(NewDictionary, FindsThePlaceBeforeAKey)
+{
+    for (const QString &word : {u"bee"_s, u"cow"_s})
+        Add(word);
+    m_table.Seek(u"ant"_s, 0, ADODB::adSeekBeforeEQ);
+    EXPECT_TRUE(m_table.Eof()) << "nothing stands before the first row";
+    m_table.Seek(u"cow"_s, 0, ADODB::adSeekBeforeEQ);
+    EXPECT_EQ(Row(), std::pair(u"bee"_s, 1));
+    m_table.Seek(u"cow"_s, 2, ADODB::adSeekBeforeEQ);
+    EXPECT_EQ(Row(), std::pair(u"cow"_s, 2)) << "a key that is there";
+    m_table.Seek(u"zoo"_s, 0, ADODB::adSeekBeforeEQ);
+    EXPECT_EQ(Row(), std::pair(u"cow"_s, 2)) << "behind the last row";
+}
