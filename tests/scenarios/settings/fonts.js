@@ -55,3 +55,8 @@ writeBytes(appFile("FontDefi.dat"), record("Face", -9, 0xff, 0, 0, 0, 0).repeat(
 start();
 check(state("FontSizes")[0], -9, "below zero");
 ok(fontOf("frmFind.List1").size > 0, "the list is written with a size all the same");
+exit();
+writeBytes(appFile("FontDefi.dat"), record("Face", 32767, 0xff, 0, 0, 0, 0).repeat(9));
+start();
+check(fontOf("frmFind.List1").size, 32767, "the greatest size is taken as it stands");
+check(bounds("frmFind").width, 12000, "and the window keeps its own");
