@@ -91,7 +91,7 @@ void WaitForPage(frmFind &window, const PaintWatch &watch)
     const double begun = watch.Now();
     double loaded = 0;
     while (watch.Now() - begun < longestMilliseconds) {
-        QApplication::processEvents(QEventLoop::AllEvents, 5);
+        QTest::qWait(2);
         if (window.WebBrowser1->IsLoading())
             continue;
         if (loaded == 0)
