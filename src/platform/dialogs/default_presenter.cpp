@@ -173,25 +173,30 @@ QString StartFolder(const QString &drivePath)
     return lastFolder.isEmpty() ? QDir::homePath() : lastFolder;
 }
 
-/// Asks until the choice is one that the program can name, or none.
-Reply RunFileDialog(QFileDialog *dialog, bool createPrompt)
+/// Asks until the choice is one that the program can name, or none. Each time with a new dialog, for
+/// one that has been used keeps its selection beside what is typed next.
+Reply AskForPath(const std::function<QFileDialog *()> &make, bool createPrompt,
+                 const QPointer<QWidget> &parent)
 {
-    const QPointer<QFileDialog> guard(dialog);
     Reply reply;
-    while (!reply.accepted && guard && guard->exec() == QDialog::Accepted && guard) {
-        const QString chosen = guard->selectedFiles().value(0);
-        lastFolder = guard->directory().absolutePath();
-        const bool isNew = createPrompt && !QFileInfo::exists(chosen);
-        if (isNew && !UserWantsNewFile(chosen, guard))
+    while (!reply.accepted) {
+        const QPointer<QFileDialog> dialog(make());
+        const bool isChosen = dialog->exec() == QDialog::Accepted && dialog;
+        const QString chosen = isChosen ? dialog->selectedFiles().value(0) : QString();
+        if (isChosen)
+            lastFolder = dialog->directory().absolutePath();
+        delete dialog.data();
+        if (chosen.isEmpty())
+            break;
+        if (createPrompt && !QFileInfo::exists(chosen) && !UserWantsNewFile(chosen, parent))
             continue;
-        reply.text = DrivePathOrBox(chosen, guard);
+        reply.text = DrivePathOrBox(chosen, parent);
         reply.accepted = !reply.text.isEmpty();
     }
-    delete guard.data();
     return reply;
 }
 
-Reply PresentFile(const Box &box, QWidget *parent)
+QFileDialog *MakeFileDialog(const Box &box, QWidget *parent)
 {
     auto *dialog = new QFileDialog(parent, box.title, StartFolder(box.folder));
     dialog->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
@@ -207,17 +212,27 @@ Reply PresentFile(const Box &box, QWidget *parent)
     dialog->setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名(&N):"));
     if (!box.defaultText.isEmpty())
         dialog->selectFile(box.defaultText);
-    return RunFileDialog(dialog, box.createPrompt);
+    return dialog;
 }
 
-Reply PresentFolder(const Box &box, QWidget *parent)
+QFileDialog *MakeFolderDialog(const Box &box, QWidget *parent)
 {
     auto *dialog = new QFileDialog(parent, box.title, StartFolder(box.folder));
     dialog->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
     dialog->setFileMode(QFileDialog::Directory);
     LabelFileDialog(*dialog, ButtonWord(OK));
     dialog->setLabelText(QFileDialog::FileName, QStringLiteral("フォルダ(&N):"));
-    return RunFileDialog(dialog, false);
+    return dialog;
+}
+
+Reply PresentFile(const Box &box, const QPointer<QWidget> &parent)
+{
+    const bool isFolder = box.kind == Box::Kind::Folder;
+    return AskForPath(
+        [&box, &parent, isFolder] {
+            return isFolder ? MakeFolderDialog(box, parent) : MakeFileDialog(box, parent);
+        },
+        box.createPrompt && !isFolder, parent);
 }
 
 Reply PresentFont(const Box &box, QWidget *parent)
@@ -265,8 +280,8 @@ Reply PresentBox(const Box &box)
     QWidget *parent = QApplication::activeWindow();
     switch (box.kind) {
     case Box::Kind::Input: return PresentInput(box, parent);
-    case Box::Kind::File: return PresentFile(box, parent);
-    case Box::Kind::Folder: return PresentFolder(box, parent);
+    case Box::Kind::File:
+    case Box::Kind::Folder: return PresentFile(box, parent);
     case Box::Kind::Font: return PresentFont(box, parent);
     case Box::Kind::Color: return PresentColor(box, parent);
     case Box::Kind::Message: break;
