@@ -67,9 +67,12 @@ void ApplyFont(QWidget *control, int slot, int points)
     palette.setColor(QPalette::WindowText, color);
     palette.setColor(QPalette::ButtonText, color);
     control->setPalette(palette);
-    // The colour is that of the text, not of a list's arrows.
+    // The colour is that of the text, not of a list's arrows. Set anew, or the bars would inherit it.
+    QPalette desktop = QApplication::palette();
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        desktop.setColor(role, desktop.color(role));
     for (QScrollBar *bar : control->findChildren<QScrollBar *>())
-        bar->setPalette(QApplication::palette());
+        bar->setPalette(desktop);
 }
 
 void MoveTo(QWidget *control, int left)
