@@ -81,8 +81,10 @@ bool MovesSelection(int key)
 
 } // namespace
 
-ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(new ListBoxModel(this))
+ListBox::ListBox(QWidget *parent) : QListView(parent)
 {
+    // Not among the initialisers: a child that comes is an event, which wants the other members.
+    m_model = new ListBoxModel(this);
     UseWhiteBase(*this);
     setModel(m_model);
     setItemDelegate(new RowDelegate(this));

@@ -76,7 +76,7 @@ private:
     void PlaceGrip();
     bool TakesUserInput() const;
 
-    ListBoxModel *m_model;
+    ListBoxModel *m_model = nullptr;
     QWidget *m_grip = nullptr;
     int m_itemHeight = 0;
     int m_extent = 0;
