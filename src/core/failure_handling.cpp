@@ -30,12 +30,17 @@ void ReleaseView()
     Shared.ViewConnection.reset();
 }
 
-void HandleByDefault(const RuntimeError &failure)
+void ReleaseDataObjects()
 {
-    host::SetMousePointer(host::PointerDefault);
     ReleaseView();
     Shared.SearchRecordset.reset();
     Shared.SearchConnection.reset();
+}
+
+void HandleByDefault(const RuntimeError &failure)
+{
+    host::SetMousePointer(host::PointerDefault);
+    ReleaseDataObjects();
     if (frmFind *window = MainWindow(); window && !window->Picture00->isHidden()) {
         window->Picture00->hide();
         window->Picture0->show();

@@ -29,3 +29,6 @@ void GuardStep(const std::function<void()> &step);
 
 /// Closes and forgets the connection and the recordset under which records are shown.
 void ReleaseView();
+
+/// The same for these and for those of a list search.
+void ReleaseDataObjects();

@@ -27,7 +27,12 @@ Program::Program(Options options) : m_options(std::move(options))
         m_options.applicationFolder = files::ChooseApplicationFolder(QApplication::applicationDirPath());
 }
 
-Program::~Program() = default;
+Program::~Program()
+{
+    // A failed operation leaves its objects open; the engine must not outlive its own end.
+    if (m_lock && !m_gaveWay)
+        ReleaseDataObjects();
+}
 
 void Program::Start()
 {
