@@ -38,7 +38,7 @@ QString data::IndexedCopyOf(const QString &hostPath)
         QFile::remove(known.copy);
     known.copy.clear();
 
-    const QString copy = folder.filePath(QStringLiteral("%1.mdb").arg(++made));
+    QString copy = folder.filePath(QStringLiteral("%1.mdb").arg(++made));
     const FileState state{info.size(), info.lastModified(), copy};
     CopyDictionary(hostPath, copy, files::DrivePath(copy));
     copies[info.canonicalFilePath()] = state;
