@@ -280,7 +280,7 @@ void frmFind::Form_Unload(controls::UnloadReason)
     ForgetMainWindow();
     if (LexiconsAllocated() != QStringLiteral("0")) {
         GuardStep([] { SaveLexicons(CatalogueFile()); });
-        GuardStep([] { files::DeleteIfThere(AppFilePath(QStringLiteral("ListData.dat"))); });
+        GuardStep([] { files::DeleteIfThere(ResultStorePath()); });
         host::WinHelp(HelpFile(), host::HelpQuit);
     }
     Q_EMIT Gone();

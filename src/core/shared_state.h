@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/pure/catalogue_record.h"
+#include "core/pure/search_modes.h"
 #include "core/pure/settings_formats.h"
 #include "platform/data/adodb.h"
 
@@ -9,21 +10,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-
-/// The ways to search, as `SearchMode` counts them.
-enum SearchModeNumber : std::uint8_t {
-    ModeIncremental = 0,
-    ModePrefix = 1,
-    ModeMiddle = 2,
-    ModeSuffix = 3,
-    ModeMeaning = 4,
-    ModeExample = 5,
-    ModeWildcard = 6,
-    ModeWeb = 7
-};
-
-/// What is searched, as `SearchTarget` counts it.
-enum SearchTargetNumber : std::uint8_t { TargetAll = 0, TargetWords = 1, TargetPhrases = 2 };
 
 /// All state that more than one form needs, at its initial values.
 struct SharedState {

@@ -76,8 +76,25 @@ public:
     void List1_MouseMove(const QPoint &point);
     void Picture19_MouseDown();
     void Picture20_MouseDown();
+    /// Runs the search of the entry box, writes its hits to `ListData.dat` and shows the first ones.
+    /// 1 when the dictionary file does not exist, else 0.
+    std::uint8_t RunListSearch(std::uint8_t &target);
+    /// Fills the list with the hits from position `first` to `last`, counted from 1.
+    void FillHeadwordList(std::int32_t first, std::int32_t last);
+    /// Gives up a search that is running, without a trace in list and status bar.
+    void AbandonSearch();
+    void List1_DblClick();
+    void Picture0_MouseDown();
+    void Picture00_Click();
+    void Picture14_MouseDown();
+    void Picture15_MouseDown();
+    void Picture17_MouseDown();
+    void Picture18_MouseDown();
 
     // presentation/
+    /// Writes and shows the page of the hits from position `first` to `last`, counted from 1, but of
+    /// no more than a page holds.
+    void WriteEntryPage(std::int32_t first, std::int32_t last);
     /// Writes the blank page, or one with a message; does not show it.
     void WriteMessagePage(const QString &message);
     /// Writes the blank page and shows it.
@@ -89,6 +106,12 @@ public:
     /// The default look into the nine font slots.
     void SetDefaultFonts();
     void SetIncrementalMode();
+    void SetPrefixMode();
+    void SetMiddleMode();
+    void SetSuffixMode();
+    void SetWildcardMode();
+    void SetMeaningMode();
+    void SetExampleMode();
     void SetDictionaryView();
     void ToggleHeadwordList();
     void RestorePaneLayout();
@@ -111,6 +134,12 @@ public:
     void mnuSrchFromWord_Click();
     void mnuSrchFromPhrase_Click();
     void mnuIncSrch_Click();
+    void mnuPreSrch_Click();
+    void mnuMidSrch_Click();
+    void mnuPostSrch_Click();
+    void mnuWildCard_Click();
+    void mnuTxtInMeaning_Click();
+    void mnuTxtInExample_Click();
     void mnuHideListBox_Click();
     void mnuExit_Click();
     void mnuCopy_Click();
@@ -136,6 +165,7 @@ Q_SIGNALS:
 
 protected:
     void Form_Load() override;
+    bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
     void showEvent(QShowEvent *event) override;
@@ -149,6 +179,24 @@ private:
     void FillFrom(ADODB::Recordset &table);
     /// Writes list and arrays from a statement's rows; returns their number.
     qsizetype FillFromStatement(ADODB::Recordset &rows);
+
+    // search/list_search.cpp
+    /// The steps that start button and Enter key share, with the key's or the button's last line of the
+    /// message on a missing dictionary.
+    void StartListSearch(const QString &missingHint);
+    void EnterListSearch();
+    void HideHitPaging();
+    /// Writes the hits to the store; their number.
+    std::int32_t StoreHits();
+    void PrepareHitPaging();
+    void ShowFirstHits();
+    void ShowListPosition();
+    void ShowHitsFromRow(int row);
+
+    // presentation/modes.cpp
+    void EnterMode(std::uint8_t mode);
+    void SetListMode(std::uint8_t mode);
+    void ClearForModeChange();
 
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();
@@ -190,6 +238,9 @@ private:
     QSize m_rememberedWindow;
     int m_entryBoxKind = 0;
     bool m_viewMade = false;
+    bool m_searching = false;
+    bool m_searchAbandoned = false;
+    bool m_closeAfterSearch = false;
     friend class Surface;
 };
 

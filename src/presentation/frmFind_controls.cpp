@@ -22,9 +22,10 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that have work to do; the others wait, disabled, for the dialogs they open.
 constexpr std::array kServedEntries{
-    u"mnuPageSettings", u"mnuPrint",       u"mnuPrintView",    u"mnuExit",
-    u"mnuCopy",         u"mnuSelectAll",   u"mnuFind",         u"mnuHideListBox",
-    u"mnuIncSrch",      u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase",
+    u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",    u"mnuCopy",
+    u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
+    u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
+    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample",
 };
 
 struct Accelerator {
@@ -178,6 +179,7 @@ void frmFind::ConnectHandlers()
     });
     connect(txtFind, &controls::TextBox::DownPressed, this, [this] { RunHandler([this] { EnterList(); }); });
     connect(List1, &controls::ListBox::Click, this, [this] { RunHandler([this] { List1_Click(); }); });
+    connect(List1, &controls::ListBox::DblClick, this, [this] { RunHandler([this] { List1_DblClick(); }); });
     connect(List1, &controls::ListBox::KeyPress, this,
             [this](int character) { RunHandler([=, this] { List1_KeyPress(character); }); });
     connect(List1, &controls::ListBox::MouseMove, this,
@@ -202,6 +204,12 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuSrchFromWord"), &frmFind::mnuSrchFromWord_Click);
     Command(QStringLiteral("mnuSrchFromPhrase"), &frmFind::mnuSrchFromPhrase_Click);
     Command(QStringLiteral("mnuIncSrch"), &frmFind::mnuIncSrch_Click, 1);
+    Command(QStringLiteral("mnuPreSrch"), &frmFind::mnuPreSrch_Click, 2);
+    Command(QStringLiteral("mnuMidSrch"), &frmFind::mnuMidSrch_Click, 3);
+    Command(QStringLiteral("mnuPostSrch"), &frmFind::mnuPostSrch_Click, 4);
+    Command(QStringLiteral("mnuWildCard"), &frmFind::mnuWildCard_Click, 5);
+    Command(QStringLiteral("mnuTxtInMeaning"), &frmFind::mnuTxtInMeaning_Click, 6);
+    Command(QStringLiteral("mnuTxtInExample"), &frmFind::mnuTxtInExample_Click, 7);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
@@ -211,10 +219,19 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPrintView"), &frmFind::mnuPrintView_Click);
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
+    Command(QString(), &frmFind::Picture14_MouseDown, 14);
+    Command(QString(), &frmFind::Picture15_MouseDown, 15);
+    Command(QString(), &frmFind::Picture17_MouseDown, 17);
+    Command(QString(), &frmFind::Picture18_MouseDown, 18);
     Command(QString(), &frmFind::Picture19_MouseDown, 19);
     Command(QString(), &frmFind::Picture20_MouseDown, 20);
 
-    constexpr std::array served{1, 11, 12, 13, 19, 20};
+    connect(Picture0, &controls::Picture::MouseDown, this,
+            [this] { RunHandler([this] { Picture0_MouseDown(); }); });
+    connect(Picture00, &controls::Picture::MouseDown, this,
+            [this] { RunHandler([this] { Picture00_Click(); }); });
+
+    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 11, 12, 13, 14, 15, 17, 18, 19, 20};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {

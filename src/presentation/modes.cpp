@@ -20,7 +20,14 @@ constexpr std::array kModeMenus{u"mnuIncSrch",      u"mnuPreSrch",      u"mnuMid
 
 constexpr std::array kTargetMenus{u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase"};
 
-QString ResultStore() { return AppFilePath(QStringLiteral("ListData.dat")); }
+/// What the window's caption says behind the name of the program, by the modes' numbers.
+constexpr std::array kModeCaptions{u"",
+                                   u"- 前方一致検索",
+                                   u"- 中間一致検索",
+                                   u"- 後方一致検索",
+                                   u"- 訳語項目中の文字列検索",
+                                   u"- 用例項目中の文字列検索",
+                                   u"- ワイルドカード検索"};
 
 } // namespace
 
@@ -30,15 +37,82 @@ void frmFind::CheckModeMenu(std::uint8_t mode)
         Menu(QString::fromUtf16(kModeMenus[i]))->setChecked(i == mode);
 }
 
+void frmFind::EnterMode(std::uint8_t mode)
+{
+    AbandonSearch();
+    CheckModeMenu(mode);
+    Shared.SearchMode = mode;
+    setWindowTitle(QStringLiteral("Wordmere") + QString::fromUtf16(kModeCaptions.at(mode)));
+    if (mode != ModeIncremental)
+        for (const char16_t *entry : kTargetMenus)
+            Menu(QString::fromUtf16(entry))->setEnabled(true);
+    ChangeWordEntryBoxSize(mode == ModeIncremental ? 0 : 1);
+    List1->Clear();
+    ShowBlankPage();
+}
+
+void frmFind::SetListMode(std::uint8_t mode)
+{
+    ShowFailures([=, this] {
+        EnterMode(mode);
+        txtFind->setFocus();
+    });
+}
+
+void frmFind::SetPrefixMode() { SetListMode(ModePrefix); }
+void frmFind::SetMiddleMode() { SetListMode(ModeMiddle); }
+void frmFind::SetSuffixMode() { SetListMode(ModeSuffix); }
+void frmFind::SetWildcardMode() { SetListMode(ModeWildcard); }
+void frmFind::SetMeaningMode() { SetListMode(ModeMeaning); }
+void frmFind::SetExampleMode() { SetListMode(ModeExample); }
+
+void frmFind::ClearForModeChange()
+{
+    for (const int number : {14, 15, 17, 18, 19, 20})
+        PictureOf(number)->hide();
+    StatusBar1->SetSimpleText(QString());
+}
+
+void frmFind::mnuPreSrch_Click()
+{
+    ClearForModeChange();
+    SetPrefixMode();
+}
+
+void frmFind::mnuMidSrch_Click()
+{
+    ClearForModeChange();
+    SetMiddleMode();
+}
+
+void frmFind::mnuPostSrch_Click()
+{
+    ClearForModeChange();
+    SetSuffixMode();
+}
+
+void frmFind::mnuWildCard_Click()
+{
+    ClearForModeChange();
+    SetWildcardMode();
+}
+
+void frmFind::mnuTxtInMeaning_Click()
+{
+    ClearForModeChange();
+    SetMeaningMode();
+}
+
+void frmFind::mnuTxtInExample_Click()
+{
+    ClearForModeChange();
+    SetExampleMode();
+}
+
 void frmFind::SetIncrementalMode()
 {
     ShowFailures([this] {
-        CheckModeMenu(ModeIncremental);
-        Shared.SearchMode = ModeIncremental;
-        setWindowTitle(QStringLiteral("Wordmere"));
-        ChangeWordEntryBoxSize(0);
-        List1->Clear();
-        ShowBlankPage();
+        EnterMode(ModeIncremental);
         const QString word = text::Trim(txtFind->Text());
         txtFind->SetText(QString());
         txtFind->SetText(word);
@@ -48,12 +122,11 @@ void frmFind::SetIncrementalMode()
 
 void frmFind::mnuIncSrch_Click()
 {
-    for (const int number : {14, 15, 17, 18})
-        PictureOf(number)->hide();
+    ClearForModeChange();
     for (const int number : {19, 20})
         PictureOf(number)->setVisible(Shared.SearchTarget == TargetAll);
-    StatusBar1->SetSimpleText(QString());
-    files::DeleteIfThere(ResultStore());
+    AbandonSearch();
+    files::DeleteIfThere(ResultStorePath());
     txtFind->SetText(QString());
     txtFind->setFocus();
     SetIncrementalMode();
@@ -98,6 +171,7 @@ void frmFind::Label1_Click()
 
 void frmFind::Combo1_Click()
 {
+    AbandonSearch();
     if (Shared.Lexicons) {
         QList<Lexicon> &lexicons = *Shared.Lexicons;
         for (Lexicon &lexicon : lexicons)
@@ -115,7 +189,7 @@ void frmFind::Combo1_Click()
     for (const int number : {14, 15, 17, 18})
         PictureOf(number)->hide();
     if (Shared.SearchMode != ModeIncremental)
-        files::DeleteIfThere(ResultStore());
+        files::DeleteIfThere(ResultStorePath());
     CheckModeMenu(ModeIncremental);
     Shared.SearchMode = ModeIncremental;
     setWindowTitle(QStringLiteral("Wordmere"));
@@ -137,13 +211,14 @@ void frmFind::Combo1_KeyPress(int character, bool *swallow)
 
 void frmFind::ClearSearch()
 {
+    AbandonSearch();
     txtFind->SetText(QString());
     List1->Clear();
     ShowBlankPage();
     StatusBar1->SetSimpleText(QStringLiteral("Ready"));
     txtFind->setFocus();
     if (Shared.SearchMode != ModeIncremental)
-        files::DeleteIfThere(ResultStore());
+        files::DeleteIfThere(ResultStorePath());
 }
 
 void frmFind::SetDictionaryView()

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/data/adodb.h"
+#include "platform/files/line_file.h"
+#include "presentation/pure/entry_page.h"
+
 #include <QString>
 
 /// The drive path of the generated page.
@@ -7,3 +11,19 @@ QString PagePath();
 
 /// Begins a page of entries: the file is emptied and gets the header's lines.
 void WritePageHeader();
+
+/// What an entry shows of a recordset's current row.
+EntryFields FieldsOfRow(ADODB::Recordset &rows);
+
+/// The page of entries, opened again behind its header.
+class EntryPage
+{
+public:
+    EntryPage();
+    void WriteLine(const QString &line);
+    /// Writes the closing text and closes the file.
+    void Finish();
+
+private:
+    files::LineWriter m_file;
+};

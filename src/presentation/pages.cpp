@@ -19,6 +19,23 @@ void WritePageHeader()
     page.Close();
 }
 
+EntryFields FieldsOfRow(ADODB::Recordset &rows)
+{
+    const ADODB::Fields fields = rows.Fields();
+    return {fields.Item(QStringLiteral("Word")).Text(), fields.Item(QStringLiteral("Pronunciation")).Text(),
+            fields.Item(QStringLiteral("Description")).Text(), fields.Item(QStringLiteral("Example")).Text()};
+}
+
+EntryPage::EntryPage() : m_file(PagePath(), files::LineWriter::Mode::Append) {}
+
+void EntryPage::WriteLine(const QString &line) { m_file.WriteLine(text::EncodePage(line)); }
+
+void EntryPage::Finish()
+{
+    WriteLine(PageEnd());
+    m_file.Close();
+}
+
 void frmFind::WriteMessagePage(const QString &message)
 {
     files::LineWriter page(PagePath(), files::LineWriter::Mode::Output);

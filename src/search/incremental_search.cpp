@@ -1,19 +1,16 @@
 #include "core/failure_handling.h"
-#include "core/pure/dictionary_file.h"
 #include "core/shared_state.h"
 #include "platform/browser/web_browser.h"
-#include "platform/data/adodb.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/failure/runtime_error.h"
-#include "platform/files/line_file.h"
 #include "platform/host/host.h"
-#include "platform/text/shift_jis.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
 #include "presentation/page_file.h"
 #include "presentation/pure/entry_page.h"
 #include "search/pure/entry_text.h"
 #include "search/pure/like_text.h"
+#include "search/view.h"
 
 #include <QScopeGuard>
 #include <algorithm>
@@ -23,60 +20,7 @@ namespace
 {
 
 constexpr int kEscape = 27;
-
-QString TextOf(ADODB::Recordset &rows, const char16_t *column)
-{
-    return rows.Fields().Item(QString::fromUtf16(column)).Text();
-}
-
-std::int32_t AutoIDOf(ADODB::Recordset &rows)
-{
-    return rows.Fields().Item(QStringLiteral("AutoID")).Value().toInt();
-}
-
-void OpenView()
-{
-    Shared.ViewRecordset.reset();
-    Shared.ViewConnection = std::make_shared<ADODB::Connection>();
-    Shared.ViewConnection->Open(ViewConnectionString(Shared.CurrentDicPath));
-    Shared.ViewRecordset = std::make_shared<ADODB::Recordset>();
-}
-
-ADODB::Recordset &OpenViewTable()
-{
-    OpenView();
-    OpenTableByIndex(*Shared.ViewConnection, *Shared.ViewRecordset);
-    return *Shared.ViewRecordset;
-}
-
-void CloseView()
-{
-    Shared.ViewRecordset->Close();
-    Shared.ViewConnection->Close();
-    ReleaseView();
-}
-
-/// The page of entries, opened again behind its header.
-class EntryPage
-{
-public:
-    EntryPage() : m_file(PagePath(), files::LineWriter::Mode::Append) {}
-
-    void WriteCurrentRow(ADODB::Recordset &rows)
-    {
-        m_file.WriteLine(
-            text::EncodePage(PlainEntryLine({TextOf(rows, u"Word"), TextOf(rows, u"Pronunciation"),
-                                             TextOf(rows, u"Description"), TextOf(rows, u"Example")})));
-    }
-    void Finish()
-    {
-        m_file.WriteLine(text::EncodePage(PageEnd()));
-        m_file.Close();
-    }
-
-private:
-    files::LineWriter m_file;
-};
+constexpr int kEnter = 13;
 
 /// Writes the records of the arrays from index `first` to `last`; one that has gone is left out.
 void WriteListedEntries(ADODB::Recordset &table, qsizetype first, qsizetype last)
@@ -85,7 +29,7 @@ void WriteListedEntries(ADODB::Recordset &table, qsizetype first, qsizetype last
     for (qsizetype i = first; i <= last; ++i) {
         table.Seek(Shared.IncWords[i], Shared.IncAutoIDs[i], ADODB::adSeekFirstEQ);
         if (!table.Eof())
-            page.WriteCurrentRow(table);
+            page.WriteLine(PlainEntryLine(FieldsOfRow(table)));
     }
     page.Finish();
 }
@@ -99,19 +43,6 @@ void SizeListArrays()
     Shared.IncWords = QStringList(Shared.IncListCount + 1);
     Shared.IncAutoIDs = QList<std::int32_t>(Shared.IncListCount + 1);
 }
-
-/// Keeps a list from being painted while it is filled, however the filling ends.
-class ListFill
-{
-public:
-    explicit ListFill(controls::ListBox &list) : m_list(list) { m_list.BeginFill(); }
-    ~ListFill() { m_list.EndFill(); }
-    ListFill(const ListFill &) = delete;
-    ListFill &operator=(const ListFill &) = delete;
-
-private:
-    controls::ListBox &m_list;
-};
 
 } // namespace
 
@@ -149,8 +80,12 @@ void frmFind::txtFind_Change()
 
 void frmFind::List1_Click()
 {
-    if (Shared.SearchMode != ModeIncremental || List1->ListIndex() < 0)
+    if (List1->ListIndex() < 0)
         return;
+    if (Shared.SearchMode != ModeIncremental) {
+        ShowHitsFromRow(List1->ListIndex());
+        return;
+    }
     ListClickIndex = List1->ListIndex();
     const QString word = text::LTrim(List1->Text());
     const auto done = qScopeGuard([this] { ListClickActive = 0; });
@@ -221,7 +156,7 @@ void frmFind::FillFrom(ADODB::Recordset &table)
             PageLastAutoID = AutoIDOf(table);
         }
         if (i < Shared.IncEntriesPerPage)
-            page.WriteCurrentRow(table);
+            page.WriteLine(PlainEntryLine(FieldsOfRow(table)));
         if (refill)
             List1->AddItem(Shared.IncWords[i]);
         table.MoveNext();
@@ -334,7 +269,7 @@ void frmFind::ListWordsDescriptions5(QString &word, std::int32_t &autoID, int di
         table.Seek(word, autoID, ADODB::adSeekFirstEQ);
         EntryPage page;
         for (int i = 0; i < count && !table.Eof(); ++i) {
-            page.WriteCurrentRow(table);
+            page.WriteLine(PlainEntryLine(FieldsOfRow(table)));
             table.MoveNext();
         }
         page.Finish();
@@ -357,6 +292,8 @@ void frmFind::Picture20_MouseDown()
 
 void frmFind::txtFind_KeyPress(int character, bool *swallow)
 {
+    if (character == kEnter)
+        EnterListSearch();
     if (character != kEscape)
         return;
     *swallow = true;

@@ -11,6 +11,8 @@ QString AppFilePath(const QString &name)
     return path + name;
 }
 
+QString ResultStorePath() { return AppFilePath(QStringLiteral("ListData.dat")); }
+
 QString WindowsFolderRoot() { return files::ApplicationFolder(); }
 
 qsizetype AnsiByteLen(const QString &text) { return text::EncodeRecord(text).size(); }

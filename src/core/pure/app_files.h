@@ -5,6 +5,9 @@
 /// The drive path of a file in the application folder.
 QString AppFilePath(const QString &name);
 
+/// The drive path of `ListData.dat`, the store of the hits of the last list search.
+QString ResultStorePath();
+
 /// The folder that holds `msagent\Chars`, the default place of the characters: the application
 /// folder, as a drive path.
 QString WindowsFolderRoot();

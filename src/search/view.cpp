@@ -1,0 +1,52 @@
+#include "search/view.h"
+
+#include "core/failure_handling.h"
+#include "core/pure/dictionary_file.h"
+#include "core/shared_state.h"
+
+QString TextOf(ADODB::Recordset &rows, const char16_t *column)
+{
+    return rows.Fields().Item(QString::fromUtf16(column)).Text();
+}
+
+std::int32_t AutoIDOf(ADODB::Recordset &rows)
+{
+    return rows.Fields().Item(QStringLiteral("AutoID")).Value().toInt();
+}
+
+void OpenView()
+{
+    Shared.ViewRecordset.reset();
+    Shared.ViewConnection = std::make_shared<ADODB::Connection>();
+    Shared.ViewConnection->Open(ViewConnectionString(Shared.CurrentDicPath));
+    Shared.ViewRecordset = std::make_shared<ADODB::Recordset>();
+}
+
+ADODB::Recordset &OpenViewTable()
+{
+    OpenView();
+    OpenTableByIndex(*Shared.ViewConnection, *Shared.ViewRecordset);
+    return *Shared.ViewRecordset;
+}
+
+void CloseView()
+{
+    Shared.ViewRecordset->Close();
+    Shared.ViewConnection->Close();
+    ReleaseView();
+}
+
+bool SeekResult(ADODB::Recordset &table, const ResultKey &key)
+{
+    table.Seek(key.word, key.autoID, ADODB::adSeekFirstEQ);
+    if (!table.Eof() || !key.wordMayBeCut)
+        return !table.Eof();
+    const auto row = Shared.ViewConnection->Execute(
+        QStringLiteral("SELECT TOP 1 * FROM Dictionary WHERE AutoID = ") + QString::number(key.autoID));
+    if (row->Eof())
+        return false;
+    const QString word = TextOf(*row, u"Word");
+    row->Close();
+    table.Seek(word, key.autoID, ADODB::adSeekFirstEQ);
+    return !table.Eof();
+}
