@@ -41,9 +41,12 @@ void HandleByDefault(const RuntimeError &failure)
 {
     host::SetMousePointer(host::PointerDefault);
     ReleaseDataObjects();
-    if (frmFind *window = MainWindow(); window && !window->Picture00->isHidden()) {
-        window->Picture00->hide();
-        window->Picture0->show();
+    if (frmFind *window = MainWindow()) {
+        window->AbandonSearch();
+        if (!window->Picture00->isHidden()) {
+            window->Picture00->hide();
+            window->Picture0->show();
+        }
     }
     dialogs::Box box;
     box.title = ErrorTitle();

@@ -188,8 +188,14 @@ private:
     void HideHitPaging();
     /// Writes the hits to the store; their number.
     std::int32_t StoreHits();
+    /// Tells in the status bar how the search ended, and before that when it found as many as it keeps.
+    void TellOutcome(std::int32_t rows);
+    /// Puts away what a search that was given up has left.
+    void DropSearch();
     void PrepareHitPaging();
     void ShowFirstHits();
+    /// Shows a page of the list that begins with the hit at `first`.
+    void ShowListPage(std::int32_t page, std::int32_t first);
     void ShowListPosition();
     void ShowHitsFromRow(int row);
 

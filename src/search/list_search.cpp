@@ -38,13 +38,17 @@ void CloseSearch()
     Shared.SearchConnection.reset();
 }
 
-/// Takes the typed text into the shared state; returns the request, its word pattern empty when there
-/// is nothing to search.
-ListRequest TakeRequest(const CompositeText &parts, std::uint8_t target)
+/// Takes the word part into the shared state.
+void TakeWord(const QString &word)
 {
-    Shared.WordPattern = WordPatternFor(Shared.SearchMode, parts.word);
+    Shared.WordPattern = WordPatternFor(Shared.SearchMode, word);
     if (Shared.SearchMode != ModeWildcard)
-        Shared.SearchText = parts.word;
+        Shared.SearchText = word;
+}
+
+/// Takes the further conditions into the shared state; returns the whole request.
+ListRequest TakeConditions(const CompositeText &parts, std::uint8_t target)
+{
     Shared.MeaningPattern = ContainsPattern(parts.meaning);
     Shared.ExamplePattern = ContainsPattern(parts.example);
     Shared.CompositeMeaningText = parts.meaning;
@@ -85,36 +89,25 @@ std::uint8_t frmFind::RunListSearch(std::uint8_t &target)
         return 0;
     List1->Clear();
     host::SetMousePointer(host::PointerHourglass);
+    TakeWord(parts.word);
     if (!files::Exists(Shared.CurrentDicPath)) {
         host::SetMousePointer(host::PointerDefault);
         return 1;
     }
-    const ListRequest request = TakeRequest(parts, target);
+    const ListRequest request = TakeConditions(parts, target);
     Shared.SearchConnection = std::make_shared<ADODB::Connection>();
     Shared.SearchConnection->SetConnectionString(SearchConnectionString(Shared.CurrentDicPath));
     Shared.SearchConnection->Open();
     Shared.SearchRecordset = Shared.SearchConnection->Execute(ListStatement(request), ADODB::adCmdText);
     files::DeleteIfThere(ResultStorePath());
     const std::int32_t rows = StoreHits();
+    if (!m_searchAbandoned)
+        TellOutcome(rows);
     if (m_searchAbandoned) {
-        host::SetMousePointer(host::PointerDefault);
-        CloseSearch();
-        Shared.StopRequested = 0;
+        DropSearch();
         return 0;
     }
-    if (Shared.StopRequested != 0) {
-        StatusBar1->SetSimpleText(
-            QStringLiteral(
-                "該当するすべての見出し語を抽出する前に処理の中断を選択しました。表示可能な見出し語は") +
-            QString::number(rows) + QStringLiteral("件です。"));
-    } else if (rows > 0) {
-        if (rows >= Shared.MaxListCount) {
-            ShowListLimitMessage(Shared.MaxListCount);
-            host::DoEvents();
-        }
-        StatusBar1->SetSimpleText(QString::number(rows) + QStringLiteral("件の見出し語が見つかりました。"));
-    } else {
-        StatusBar1->SetSimpleText(QStringLiteral("該当する見出し語は見つかりませんでした。"));
+    if (rows == 0 && Shared.StopRequested == 0) {
         host::SetMousePointer(host::PointerDefault);
         CloseSearch();
         return 0;
@@ -129,17 +122,50 @@ std::uint8_t frmFind::RunListSearch(std::uint8_t &target)
 
 std::int32_t frmFind::StoreHits()
 {
+    // Its own hold on the rows: a failure told in one of the yields releases the shared one.
+    const std::shared_ptr<ADODB::Recordset> hits = Shared.SearchRecordset;
+    const std::shared_ptr<ADODB::Connection> connection = Shared.SearchConnection;
     files::FixedRecordFile store(ResultStorePath(), kResultRecordLength);
     std::int32_t rows = 0;
-    ADODB::Recordset &hits = *Shared.SearchRecordset;
-    while (!hits.Eof() && Shared.StopRequested == 0) {
+    while (!m_searchAbandoned && !hits->Eof() && Shared.StopRequested == 0) {
         ++rows;
-        store.Write(rows, EncodeResult(TextOf(hits, u"Word"), AutoIDOf(hits)));
-        hits.MoveNext();
+        store.Write(rows, EncodeResult(TextOf(*hits, u"Word"), AutoIDOf(*hits)));
+        hits->MoveNext();
         host::YieldRow();
     }
-    store.Close();
+    if (!m_searchAbandoned)
+        store.Close();
     return rows;
+}
+
+void frmFind::TellOutcome(std::int32_t rows)
+{
+    if (Shared.StopRequested != 0) {
+        StatusBar1->SetSimpleText(
+            QStringLiteral(
+                "該当するすべての見出し語を抽出する前に処理の中断を選択しました。表示可能な見出し語は") +
+            QString::number(rows) + QStringLiteral("件です。"));
+        return;
+    }
+    if (rows == 0) {
+        StatusBar1->SetSimpleText(QStringLiteral("該当する見出し語は見つかりませんでした。"));
+        return;
+    }
+    if (rows >= Shared.MaxListCount) {
+        ShowListLimitMessage(Shared.MaxListCount);
+        host::DoEvents();
+    }
+    if (!m_searchAbandoned)
+        StatusBar1->SetSimpleText(QString::number(rows) + QStringLiteral("件の見出し語が見つかりました。"));
+}
+
+void frmFind::DropSearch()
+{
+    host::SetMousePointer(host::PointerDefault);
+    Shared.SearchRecordset.reset();
+    Shared.SearchConnection.reset();
+    Shared.StopRequested = 0;
+    files::DeleteIfThere(ResultStorePath());
 }
 
 void frmFind::PrepareHitPaging()
@@ -182,14 +208,18 @@ void frmFind::FillHeadwordList(std::int32_t first, std::int32_t last)
     const auto firstRow = CheckedTo<std::int16_t>(first), lastRow = CheckedTo<std::int16_t>(last);
     ADODB::Recordset &table = OpenViewTable();
     files::FixedRecordFile store(ResultStorePath(), kResultRecordLength);
+    // All words before the first row, so that a failure leaves the list as it was.
+    QStringList words;
+    for (std::int32_t position = firstRow; position <= lastRow; ++position) {
+        const ResultKey key = DecodeResult(store.Read(position));
+        // A row that has gone keeps its place, so that rows and positions stay in step.
+        words.append(SeekResult(table, key) ? TextOf(table, u"Word") : key.word);
+    }
     {
         const ListFill fill(*List1);
         List1->Clear();
-        for (std::int32_t position = firstRow; position <= lastRow; ++position) {
-            const ResultKey key = DecodeResult(store.Read(position));
-            // A row that has gone keeps its place, so that rows and positions stay in step.
-            List1->AddItem(SeekResult(table, key) ? TextOf(table, u"Word") : key.word);
-        }
+        for (const QString &word : std::as_const(words))
+            List1->AddItem(word);
     }
     if (Shared.ListHidden == 0)
         List1->show();
@@ -197,13 +227,7 @@ void frmFind::FillHeadwordList(std::int32_t first, std::int32_t last)
     CloseView();
 }
 
-void frmFind::AbandonSearch()
-{
-    if (!m_searching)
-        return;
-    m_searchAbandoned = true;
-    Shared.StopRequested = 1;
-}
+void frmFind::AbandonSearch() { m_searchAbandoned = m_searching; }
 
 void frmFind::HideHitPaging()
 {
@@ -213,6 +237,10 @@ void frmFind::HideHitPaging()
 
 void frmFind::StartListSearch(const QString &missingHint)
 {
+    auto failed = qScopeGuard([this] {
+        Shared.StopRequested = 0;
+        StatusBar1->SetSimpleText(QString());
+    });
     const auto done = qScopeGuard([this] {
         m_searching = false;
         if (m_closeAfterSearch)
@@ -229,6 +257,7 @@ void frmFind::StartListSearch(const QString &missingHint)
     StatusBar1->SetSimpleText(QStringLiteral("検索中..."));
     if (RunListSearch(Shared.SearchTarget) == 1)
         ShowMissingDatabase(missingHint);
+    failed.dismiss();
     Picture00->hide();
     Picture0->setVisible(Shared.SearchMode != ModeIncremental);
 }
@@ -288,6 +317,8 @@ void frmFind::List1_DblClick()
     if (incremental) {
         key.word = text::Trim(List1->Text());
         key.autoID = Shared.IncAutoIDs.value(row);
+        Shared.CurrentWord = key.word;
+        Shared.CurrentAutoID = key.autoID;
         Shared.SavedIncSearchText = txtFind->Text();
     } else {
         key = DecodeResult(
@@ -312,30 +343,37 @@ void frmFind::ShowListPosition()
                               QStringLiteral("件目までを見出し語リストボックス内に表示中．．．"));
 }
 
+void frmFind::ShowListPage(std::int32_t page, std::int32_t first)
+{
+    const std::int32_t last = std::min(page * Shared.ListPageSize, Shared.HitCount);
+    FillHeadwordList(first, last);
+    // Behind the filling: where that fails, rows and positions are those of the page that stays.
+    Shared.ListPageNo = page;
+    Shared.ListFirstPos = first;
+    Shared.ListLastPos = last;
+}
+
 void frmFind::Picture14_MouseDown()
 {
-    if (Shared.ListPageNo > 1) {
-        --Shared.ListPageNo;
-        Shared.ListFirstPos = (Shared.ListPageNo - 1) * Shared.ListPageSize + 1;
-        Shared.ListLastPos = std::min(Shared.ListPageNo * Shared.ListPageSize, Shared.HitCount);
+    const std::int32_t page = Shared.ListPageNo - 1;
+    if (page >= 1) {
+        ShowListPage(page, (page - 1) * Shared.ListPageSize + 1);
     } else {
         TellEnd(AtFirst(), ListTitle());
+        FillHeadwordList(Shared.ListFirstPos, Shared.ListLastPos);
     }
-    FillHeadwordList(Shared.ListFirstPos, Shared.ListLastPos);
     ShowListPosition();
 }
 
 void frmFind::Picture15_MouseDown()
 {
-    if (Shared.ListLastPos + 1 > Shared.HitCount) {
+    const std::int32_t first = Shared.ListLastPos + 1;
+    if (first > Shared.HitCount) {
         TellEnd(AtLast(), ListTitle());
         FillHeadwordList(Shared.ListFirstPos, Shared.ListLastPos);
         return;
     }
-    ++Shared.ListPageNo;
-    Shared.ListFirstPos = Shared.ListLastPos + 1;
-    Shared.ListLastPos = std::min(Shared.ListPageNo * Shared.ListPageSize, Shared.HitCount);
-    FillHeadwordList(Shared.ListFirstPos, Shared.ListLastPos);
+    ShowListPage(Shared.ListPageNo + 1, first);
     ShowListPosition();
 }
 

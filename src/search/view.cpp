@@ -3,6 +3,7 @@
 #include "core/failure_handling.h"
 #include "core/pure/dictionary_file.h"
 #include "core/shared_state.h"
+#include "platform/text/trim.h"
 
 QString TextOf(ADODB::Recordset &rows, const char16_t *column)
 {
@@ -39,14 +40,18 @@ void CloseView()
 bool SeekResult(ADODB::Recordset &table, const ResultKey &key)
 {
     table.Seek(key.word, key.autoID, ADODB::adSeekFirstEQ);
-    if (!table.Eof() || !key.wordMayBeCut)
-        return !table.Eof();
+    if (!table.Eof())
+        return true;
+    // The hit has its word trimmed, and a very long one cut.
     const auto row = Shared.ViewConnection->Execute(
         QStringLiteral("SELECT TOP 1 * FROM Dictionary WHERE AutoID = ") + QString::number(key.autoID));
     if (row->Eof())
         return false;
     const QString word = TextOf(*row, u"Word");
     row->Close();
+    const QString trimmed = text::Trim(word);
+    if (key.wordMayBeCut ? !trimmed.startsWith(key.word) : trimmed != key.word)
+        return false;
     table.Seek(word, key.autoID, ADODB::adSeekFirstEQ);
     return !table.Eof();
 }

@@ -25,6 +25,6 @@ ResultKey DecodeResult(const QByteArray &record)
     ResultKey key;
     key.word = text::FieldText(text::DecodeRecord(field));
     key.autoID = record.sliced(kWordLength, kNumberLength).toInt();
-    key.wordMayBeCut = !field.last(kLongestCharacter).trimmed().isEmpty();
+    key.wordMayBeCut = !text::FieldText(text::DecodeRecord(field.last(kLongestCharacter))).isEmpty();
     return key;
 }
