@@ -8,16 +8,26 @@ namespace data
 namespace
 {
 
-constexpr std::array<std::array<std::string_view, 2>, 2> kSql{{
-    {"SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
-     "WHERE Word = ?1 AND AutoID > ?2 ORDER BY AutoID",
-     "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
-     "WHERE Word > ?1 ORDER BY Word, AutoID"},
-    {"SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
-     "WHERE Word = ?1 AND AutoID < ?2 ORDER BY AutoID DESC",
-     "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
-     "WHERE Word < ?1 ORDER BY Word DESC, AutoID DESC"},
+/// Where a range lies, and the order of its rows.
+struct RangeSql {
+    std::string_view where;
+    std::string_view order;
+};
+
+constexpr std::array<std::array<RangeSql, 2>, 2> kRanges{{
+    {{{"Word = ?1 AND AutoID > ?2", "AutoID"}, {"Word > ?1", "Word, AutoID"}}},
+    {{{"Word = ?1 AND AutoID < ?2", "AutoID DESC"}, {"Word < ?1", "Word DESC, AutoID DESC"}}},
 }};
+constexpr int kFilterParameter = 3;
+
+std::string SqlOf(const RangeSql &range, const RowFilter *filter)
+{
+    std::string sql = "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID WHERE ";
+    sql.append(range.where);
+    if (filter != nullptr)
+        sql.append(" AND ").append(filter->Call(kFilterParameter));
+    return sql.append(" ORDER BY ").append(range.order);
+}
 
 } // namespace
 
@@ -108,8 +118,11 @@ bool IndexWalk::Take(Prepared &statement)
 Prepared &IndexWalk::StatementOf(Direction direction, Range range)
 {
     Prepared &statement = m_statements.at(direction).at(range);
-    if (!statement)
-        statement = m_session.Prepare(kSql.at(direction).at(range));
+    if (!statement) {
+        statement = m_session.Prepare(SqlOf(kRanges.at(direction).at(range), m_filter));
+        if (m_filter != nullptr)
+            m_filter->BindTo(statement, kFilterParameter);
+    }
     return statement;
 }
 

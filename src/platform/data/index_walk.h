@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/data/prepared.h"
+#include "platform/data/row_filter.h"
 #include "platform/data/session.h"
 
 #include <array>
@@ -22,7 +23,10 @@ inline constexpr qint64 kBehindAllIDs = std::numeric_limits<qint64>::max();
 class IndexWalk
 {
 public:
-    explicit IndexWalk(Session &session) : m_session(session) {}
+    /// With a filter it goes forward only, to the rows that pass.
+    explicit IndexWalk(Session &session, RowFilter *filter = nullptr) : m_session(session), m_filter(filter)
+    {
+    }
 
     /// Raises -2147467259 where there is no index to be walked.
     void Prepare() { StatementOf(Forward, Equal); }
@@ -55,6 +59,7 @@ private:
     Prepared &StatementOf(Direction direction, Range range);
 
     Session &m_session;
+    RowFilter *m_filter;
     std::array<std::array<Prepared, 2>, 2> m_statements;
     std::string m_word;
     qint64 m_autoID = 0;

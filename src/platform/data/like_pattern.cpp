@@ -242,6 +242,13 @@ bool LikePattern::Matches(std::string_view utf8) const
     return matches;
 }
 
+bool LikePattern::MayMatchWithin(std::string_view bytes) const
+{
+    return d->scanner.Find(bytes) != TextScanner::Finding::Absent;
+}
+
+bool LikePattern::HasLiteral() const { return d->scanner.IsUseful(); }
+
 const std::u32string &LikePattern::Prefix() const { return d->prefix; }
 
 bool LikePattern::IsLiteral() const { return d->isLiteral; }

@@ -24,6 +24,11 @@ public:
     /// a literal part rules out.
     bool Matches(std::string_view utf8) const;
 
+    /// Whether bytes may hold a text that matches, whatever else they hold. False is exact. Without a
+    /// literal to look for, as HasLiteral tells, it is always true.
+    bool MayMatchWithin(std::string_view bytes) const;
+    bool HasLiteral() const;
+
     /// The folded literal that every match begins with; empty when there is none.
     const std::u32string &Prefix() const;
     /// Whether the pattern is a literal without any wildcard: matches are the texts equal to Prefix.

@@ -53,6 +53,11 @@ void Prepared::BindNumber(int parameter, qint64 value)
 
 void Prepared::BindNull(int parameter) { Check(sqlite3_bind_null(m_statement, parameter)); }
 
+void Prepared::BindPointer(int parameter, void *pointer, const char *kind)
+{
+    Check(sqlite3_bind_pointer(m_statement, parameter, pointer, kind, nullptr));
+}
+
 void Prepared::BindBehindAllText(int parameter) { Check(sqlite3_bind_zeroblob(m_statement, parameter, 0)); }
 
 bool Prepared::Step()

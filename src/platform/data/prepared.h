@@ -28,6 +28,8 @@ public:
     void BindTextInPlace(int parameter, std::string_view text);
     void BindNumber(int parameter, qint64 value);
     void BindNull(int parameter);
+    /// What a function of SQLite takes under the kind's name; it must outlive the statement's runs.
+    void BindPointer(int parameter, void *pointer, const char *kind);
     /// A value that sorts behind every text.
     void BindBehindAllText(int parameter);
 

@@ -1,8 +1,8 @@
 #include "platform/data/query_plan.h"
 
 #include "platform/data/index_walk.h"
-#include "platform/data/row_test.h"
-#include "platform/data/schema.h"
+#include "platform/data/row_filter.h"
+#include "platform/data/table_scan.h"
 #include "platform/text/fold.h"
 
 #include <QString>
@@ -55,31 +55,33 @@ private:
     bool m_done = false;
 };
 
-/// The index, whole or the range of the headwords with a common beginning.
+/// The index, whole or the range of the headwords with a common beginning. The index answers what it
+/// can; only what it cannot costs a look-up of the row.
 class IndexPlan : public QueryPlan
 {
 public:
-    /// `range` is the number of the test whose range is walked; -1 for the whole index.
-    IndexPlan(RowTests tests, int range, Session &session, RowReader &row)
-        : m_tests(std::move(tests)), m_walk(session), m_row(row)
+    /// `range` is the number of the key test whose range is walked; -1 for the whole index.
+    IndexPlan(RowTests keyTests, int range, RowTests rowTests, Session &session, RowReader &row)
+        : m_filter(std::move(keyTests), range), m_rowTests(std::move(rowTests)), m_walk(session, &m_filter),
+          m_row(row)
     {
-        if (range < 0)
-            return;
-        const RowTest &bound = m_tests.at(static_cast<std::size_t>(range));
-        m_prefix = bound.Prefix();
-        m_exact = bound.IsExact();
-        m_bounded = true;
-        m_from = QString::fromStdU32String(m_prefix).toStdString();
     }
+
+    /// Lets the plan look up no more rows than this; behind them it says that there is no further one.
+    void LimitLookUps(int most) { m_mostLookUps = most; }
+    /// Whether it stopped at that limit, behind the row of Place.
+    bool IsAtLimit() const { return m_state == State::AtLimit; }
+    const IndexWalk &Place() const { return m_walk; }
 
     bool Next(Hit &hit) override
     {
-        if (m_state == State::Ended)
+        if (m_state == State::Ended || m_state == State::AtLimit)
             return false;
-        bool there = m_state == State::Begun ? m_walk.Next() : m_walk.SeekBehind(m_from, kBeforeAllIDs);
+        bool there =
+            m_state == State::Begun ? m_walk.Next() : m_walk.SeekBehind(m_filter.RangeStart(), kBeforeAllIDs);
         m_state = State::Begun;
-        for (; there; there = m_walk.Next()) {
-            if (Passes()) {
+        for (; there && !m_filter.HasLeftRange(); there = m_walk.Next()) {
+            if (PassesRow()) {
                 hit.autoID = m_walk.AutoID();
                 hit.hasKey = true;
                 hit.word = m_walk.Word();
@@ -87,141 +89,75 @@ public:
                 hit.wordPhrase = m_walk.WordPhrase();
                 return true;
             }
-            if (m_bounded && !IsInRange())
-                break;
+            if (m_lookUps == m_mostLookUps) {
+                m_state = State::AtLimit;
+                return false;
+            }
         }
         m_state = State::Ended;
-        return false;
-    }
-    void Restart() override { m_state = State::Fresh; }
-
-private:
-    enum class State { Fresh, Begun, Ended };
-
-    bool Passes()
-    {
-        // What the index holds comes first: the row itself costs a look-up.
-        for (const RowTest &test : m_tests)
-            if (IsInIndex(test) && !PassesKey(test))
-                return false;
-        for (const RowTest &test : m_tests)
-            if (!IsInIndex(test) && !(m_row.Load(m_walk.AutoID()) && PassesLoaded(test, m_row)))
-                return false;
-        return true;
-    }
-
-    bool PassesKey(const RowTest &test) const
-    {
-        switch (test.column()) {
-        case AutoID: return test.Passes(m_walk.AutoID());
-        case WordPhrase: return m_walk.HasWordPhrase() && test.Passes(qint64(m_walk.WordPhrase()));
-        default: return test.Passes(m_walk.Word());
-        }
-    }
-
-    bool IsInRange()
-    {
-        text::FoldUtf8(m_walk.Word(), m_folded);
-        return m_exact ? m_folded == m_prefix : m_folded.starts_with(m_prefix);
-    }
-
-    RowTests m_tests;
-    IndexWalk m_walk;
-    RowReader &m_row;
-    State m_state = State::Fresh;
-    bool m_bounded = false;
-    bool m_exact = false;
-    std::u32string m_prefix;
-    std::u32string m_folded;
-    std::string m_from;
-};
-
-/// The table in the order of its numbers. Only the columns that are tested are read of rows that fail.
-class TablePlan : public QueryPlan
-{
-public:
-    TablePlan(RowTests tests, Session &session) : m_tests(std::move(tests)), m_session(session)
-    {
-        m_sql = "SELECT AutoID";
-        for (const RowTest &test : m_tests) {
-            m_sql.append(", ");
-            m_sql.append(ColumnName(test.column()).data());
-        }
-        m_sql.append(" FROM Dictionary NOT INDEXED WHERE AutoID > ?1 ORDER BY AutoID");
-    }
-
-    bool Next(Hit &hit) override
-    {
-        if (m_ended)
-            return false;
-        m_session.BeginRead();
-        if (!m_open || m_generation != m_session.Generation())
-            Begin();
-        while (m_scan.Step()) {
-            if (!Passes())
-                continue;
-            m_last = m_scan.Number(0);
-            hit = Hit();
-            hit.autoID = m_last;
-            return true;
-        }
-        m_ended = true;
         return false;
     }
 
     void Restart() override
     {
-        m_last = kBeforeAllIDs;
-        m_open = false;
-        m_ended = false;
+        m_state = State::Fresh;
+        m_lookUps = 0;
+        m_filter.Restart();
     }
 
 private:
-    void Begin()
+    enum class State { Fresh, Begun, AtLimit, Ended };
+
+    bool PassesRow()
     {
-        if (!m_scan)
-            m_scan = m_session.Prepare(m_sql);
-        m_scan.Reset();
-        m_scan.BindNumber(1, m_last);
-        m_open = true;
-        m_generation = m_session.Generation();
+        if (m_rowTests.empty())
+            return true;
+        ++m_lookUps;
+        return m_row.Load(m_walk.AutoID()) && PassesLoaded(m_rowTests, m_row);
     }
 
-    bool Passes() const
-    {
-        int column = 0;
-        for (const RowTest &test : m_tests) {
-            ++column;
-            if (m_scan.IsNull(column))
-                return false;
-            const bool passes =
-                test.IsNumeric() ? test.Passes(m_scan.Number(column)) : test.Passes(m_scan.Text(column));
-            if (!passes)
-                return false;
-        }
-        return true;
-    }
-
-    RowTests m_tests;
-    Session &m_session;
-    std::string m_sql;
-    Prepared m_scan;
-    bool m_open = false;
-    bool m_ended = false;
-    qint64 m_last = kBeforeAllIDs;
-    quint64 m_generation = 0;
+    RowFilter m_filter;
+    RowTests m_rowTests;
+    IndexWalk m_walk;
+    RowReader &m_row;
+    State m_state = State::Fresh;
+    int m_lookUps = 0;
+    int m_mostLookUps = -1;
 };
 
-/// The rows of another plan in the order of the index. Only keys are held, and of those no more than
+/// The table in the order of its numbers.
+class TablePlan : public QueryPlan
+{
+public:
+    TablePlan(RowTests tests, Session &session) : m_scan(session, std::move(tests)) {}
+
+    bool Next(Hit &hit) override
+    {
+        if (!m_scan.Next())
+            return false;
+        hit = Hit();
+        hit.autoID = m_scan.AutoID();
+        return true;
+    }
+    void Restart() override { m_scan.Restart(); }
+
+private:
+    TableScan m_scan;
+};
+
+/// The rows of a table scan in the order of the index. Only keys are held, and of those no more than
 /// the statement asks for.
 class SortedPlan : public QueryPlan
 {
 public:
-    SortedPlan(std::unique_ptr<QueryPlan> rows, int top, RowReader &row)
-        : m_rows(std::move(rows)), m_row(row),
+    SortedPlan(RowTests tests, int top, Session &session, RowReader &row)
+        : m_scan(session, std::move(tests)), m_row(row),
           m_limit(top < 0 ? std::nullopt : std::optional(std::size_t(top)))
     {
     }
+
+    /// Leaves out the rows up to this key, from the first on; for a plan that has not begun.
+    void BeginBehind(std::string_view word, qint64 autoID) { m_behind = {std::string(word), autoID}; }
 
     bool Next(Hit &hit) override
     {
@@ -244,42 +180,98 @@ public:
 private:
     struct Key {
         std::string word;
-        qint64 autoID;
+        qint64 autoID = kBeforeAllIDs;
     };
 
     static bool Before(const Key &left, const Key &right)
     {
-        const int order = text::CompareUtf8(left.word, right.word);
-        return order != 0 ? order < 0 : left.autoID < right.autoID;
+        return IsBefore(left.word, left.autoID, right.word, right.autoID);
+    }
+    static bool IsBefore(std::string_view leftWord, qint64 leftID, std::string_view rightWord, qint64 rightID)
+    {
+        const int order = text::CompareUtf8(leftWord, rightWord);
+        return order != 0 ? order < 0 : leftID < rightID;
+    }
+
+    bool IsWanted() const
+    {
+        const std::string_view word = m_scan.Word();
+        if (!IsBefore(m_behind.word, m_behind.autoID, word, m_scan.AutoID()))
+            return false;
+        return !m_limit || m_keys.size() < *m_limit ||
+               (!m_keys.empty() &&
+                IsBefore(word, m_scan.AutoID(), m_keys.front().word, m_keys.front().autoID));
     }
 
     void Collect()
     {
         // A heap with the last key on top, so that with a limit only the first keys are kept.
-        Hit hit;
-        while (m_rows->Next(hit)) {
-            if (!m_row.Load(hit.autoID))
+        while (m_scan.Next()) {
+            if (!IsWanted())
                 continue;
-            Key key{std::string(m_row.Text(Word)), hit.autoID};
             if (m_limit && m_keys.size() == *m_limit) {
-                if (m_keys.empty() || !Before(key, m_keys.front()))
-                    continue;
                 std::ranges::pop_heap(m_keys, Before);
                 m_keys.pop_back();
             }
-            m_keys.push_back(std::move(key));
+            m_keys.push_back({std::string(m_scan.Word()), m_scan.AutoID()});
             std::ranges::push_heap(m_keys, Before);
         }
         std::ranges::sort_heap(m_keys, Before);
         m_collected = true;
     }
 
-    std::unique_ptr<QueryPlan> m_rows;
+    TableScan m_scan;
     RowReader &m_row;
     std::optional<std::size_t> m_limit;
+    Key m_behind;
     std::vector<Key> m_keys;
     std::size_t m_next = 0;
     bool m_collected = false;
+};
+
+/// Conditions on headword and texts, in the order of the index. The index is walked first: that gives
+/// the first rows at once, and all of them where few headwords come into question or many rows pass.
+/// Each row costs a look-up there, so where these come to nothing the rest is a scan of the table.
+class MixedPlan : public QueryPlan
+{
+public:
+    MixedPlan(RowTests keyTests, int range, RowTests rowTests, int top, Session &session, RowReader &row)
+        : m_allTests(keyTests), m_top(top), m_session(session), m_row(row),
+          m_walk(std::move(keyTests), range, rowTests, session, row)
+    {
+        std::ranges::copy(rowTests, std::back_inserter(m_allTests));
+        m_walk.LimitLookUps(kMostLookUps);
+    }
+
+    bool Next(Hit &hit) override
+    {
+        if (!m_rest) {
+            if (m_walk.Next(hit))
+                return true;
+            if (!m_walk.IsAtLimit())
+                return false;
+            m_rest = std::make_unique<SortedPlan>(m_allTests, m_top, m_session, m_row);
+            m_rest->BeginBehind(m_walk.Place().Word(), m_walk.Place().AutoID());
+        }
+        return m_rest->Next(hit);
+    }
+
+    void Restart() override
+    {
+        m_walk.Restart();
+        m_rest.reset();
+    }
+
+private:
+    /// They cost about a tenth of a scan of a large table.
+    static constexpr int kMostLookUps = 4096;
+
+    RowTests m_allTests;
+    int m_top;
+    Session &m_session;
+    RowReader &m_row;
+    IndexPlan m_walk;
+    std::unique_ptr<SortedPlan> m_rest;
 };
 
 /// The test whose range of the index is the narrowest at a guess: an exact headword, else the longest
@@ -313,14 +305,17 @@ std::unique_ptr<QueryPlan> PlanFor(const Statement &statement, Session &session,
         return std::make_unique<RowPlan>(std::move(tests), autoID, row);
     }
     const bool ordered = statement.order == Statement::Order::Word;
-    const int range = NarrowestRange(tests);
-    const bool byIndex = range >= 0 || (std::ranges::all_of(tests, IsInIndex) && (ordered || !tests.empty()));
-    if (byIndex)
-        return std::make_unique<IndexPlan>(std::move(tests), range, session, row);
-    auto scan = std::make_unique<TablePlan>(std::move(tests), session);
-    if (!ordered)
-        return scan;
-    return std::make_unique<SortedPlan>(std::move(scan), statement.top, row);
+    RowTests keyTests;
+    RowTests rowTests;
+    for (const RowTest &test : tests)
+        (IsInIndex(test) ? keyTests : rowTests).push_back(test);
+    const int range = NarrowestRange(keyTests);
+    if (!ordered && range < 0 && (tests.empty() || !rowTests.empty()))
+        return std::make_unique<TablePlan>(std::move(tests), session);
+    if (!ordered || rowTests.empty())
+        return std::make_unique<IndexPlan>(std::move(keyTests), range, std::move(rowTests), session, row);
+    return std::make_unique<MixedPlan>(std::move(keyTests), range, std::move(rowTests), statement.top,
+                                       session, row);
 }
 
 } // namespace data

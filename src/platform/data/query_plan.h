@@ -38,8 +38,9 @@ public:
 /// Chooses the plan for a statement:
 /// - a number of a row: that row;
 /// - a headword, or a pattern with a literal beginning: a range of the index;
-/// - conditions that the index holds, and none with an order: the whole index;
-/// - all else: the table, its hits sorted where an order is asked for.
+/// - conditions that the index holds: the whole index;
+/// - others, with an order: the index as long as that pays, then the table, its hits sorted;
+/// - others, without: the table.
 /// Rows come in the order of the index, or of AutoID where no order is asked for and the table is
 /// read. `row` is the reader that tests read further columns through. Raises -2147217900 for an
 /// invalid pattern.

@@ -10,7 +10,7 @@ RowTest::RowTest(const Condition &condition) : m_column(condition.column), m_num
     if (IsNumeric())
         return;
     if (condition.op == Condition::Operator::Like) {
-        m_pattern.emplace(condition.text);
+        m_pattern = std::make_shared<const LikePattern>(condition.text);
         m_prefix = m_pattern->Prefix();
         m_exact = m_pattern->IsLiteral();
     } else {

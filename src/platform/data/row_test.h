@@ -3,7 +3,7 @@
 #include "platform/data/like_pattern.h"
 #include "platform/data/statement.h"
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +25,14 @@ public:
     bool Passes(std::string_view text) const;
     bool Passes(qint64 number) const { return number == m_number; }
 
+    /// Whether bytes may hold a text that passes, whatever else they hold; always, where HasLiteral tells
+    /// that there is nothing to look for.
+    bool MayPassWithin(std::string_view bytes) const
+    {
+        return !m_pattern || m_pattern->MayMatchWithin(bytes);
+    }
+    bool HasLiteral() const { return m_pattern && m_pattern->HasLiteral(); }
+
     /// The folded beginning of every text that passes; empty where there is none.
     const std::u32string &Prefix() const { return m_prefix; }
     /// Whether only texts equal to Prefix pass.
@@ -38,7 +46,7 @@ private:
     std::string m_text;
     std::u32string m_prefix;
     bool m_exact = false;
-    std::optional<LikePattern> m_pattern;
+    std::shared_ptr<const LikePattern> m_pattern; ///< copies of a test share it
 };
 
 /// The conditions of a statement.

@@ -1,6 +1,7 @@
 #include "platform/data/session.h"
 
 #include "platform/data/operation.h"
+#include "platform/data/row_filter.h"
 #include "platform/data/schema.h"
 #include "platform/files/file_operations.h"
 
@@ -63,6 +64,7 @@ Session::Session(const QString &hostPath, const QString &drivePath, Access acces
     sqlite3_busy_handler(m_database, WaitForLock, this);
     Distrust(m_database);
     RegisterCollation(m_database);
+    RowFilter::Register(m_database);
     OpenSessions().push_back(this);
 }
 
