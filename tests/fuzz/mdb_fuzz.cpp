@@ -45,6 +45,8 @@ void Use(const QString &path)
     ReadAll(
         *connection.Execute(u"SELECT TOP 50 * FROM Dictionary WHERE Word Like '%' AND Description Like '%a%' "
                             "ORDER BY Word ASC"_s));
+    ReadAll(*connection.Execute(u"SELECT TOP 50 * FROM Dictionary WHERE Description Like '%a%'"_s));
+    ReadAll(*connection.Execute(u"SELECT TOP 50 * FROM Dictionary WHERE Example Like '%qzqz%'"_s));
     rows.AddNew();
     rows.Fields().Item(u"Word"_s).SetValue(u"new"_s);
     rows.Update();

@@ -82,7 +82,7 @@ std::string_view LeafWalk::Bytes() const
 {
     if (!HoldsWholeRows())
         return {};
-    return {reinterpret_cast<const char *>(m_bytes.data()), m_bytes.size()};
+    return {reinterpret_cast<const char *>(m_bytes.data()), kPageSize};
 }
 
 bool LeafWalk::ReadRoot()
@@ -144,7 +144,7 @@ bool LeafWalk::CellAt(const Page &page, int header, int cell, int &offset)
     if (pointer + kCellPointerSize > kPageSize)
         return false;
     offset = qFromBigEndian<quint16>(&page[static_cast<std::size_t>(pointer)]);
-    return offset <= kPageSize - kChildSize - kLongestNumber;
+    return offset < kPageSize;
 }
 
 bool LeafWalk::InnerCell(const Page &page, int cell, quint32 &child, qint64 &key)
@@ -155,6 +155,7 @@ bool LeafWalk::InnerCell(const Page &page, int cell, quint32 &child, qint64 &key
     const unsigned char *at = page.data() + offset;
     child = qFromBigEndian<quint32>(at);
     key = static_cast<qint64>(NumberAt(at + kChildSize));
+    static_assert(kPadding >= kChildSize + kLongestNumber);
     return true;
 }
 

@@ -37,7 +37,9 @@ public:
     std::string_view Bytes() const;
 
 private:
-    using Page = std::array<unsigned char, kPageSize>;
+    /// Behind the page's bytes stand zeros enough for a cell that claims to go on there.
+    static constexpr std::size_t kPadding = 16;
+    using Page = std::array<unsigned char, kPageSize + kPadding>;
     /// An inner page and the child that the walk is in.
     struct Level {
         Page page;
