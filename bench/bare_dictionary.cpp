@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <limits>
 #include <sqlite3.h>
 #include <string_view>
@@ -160,6 +161,36 @@ void BareLoad(const QString &path, std::span<const GeneratedRow> rows)
     sqlite3_finalize(insert);
     Run(database, "CREATE UNIQUE INDEX WordID ON Dictionary(Word, AutoID, WordPhrase)");
     sqlite3_close(database);
+}
+
+void BareIndexScan(const QString &path)
+{
+    sqlite3 *database = Open(path, SQLITE_OPEN_READONLY);
+    const auto passNone = [](sqlite3_context *context, int /*count*/, sqlite3_value ** /*values*/) {
+        sqlite3_result_int(context, 0);
+    };
+    Check(sqlite3_create_function(database, "PassNone", 1, SQLITE_UTF8, nullptr, passNone, nullptr, nullptr));
+    sqlite3_stmt *scan =
+        Prepare(database, "SELECT Word, AutoID, WordPhrase FROM Dictionary INDEXED BY WordID "
+                          "WHERE PassNone(Word) ORDER BY Word, AutoID");
+    if (sqlite3_step(scan) != SQLITE_DONE)
+        std::abort();
+    sqlite3_finalize(scan);
+    sqlite3_close(database);
+}
+
+void BareWriteColumn(const QString &path, const char *column, const QString &flatPath)
+{
+    sqlite3 *database = Open(path, SQLITE_OPEN_READONLY);
+    const std::string sql = std::string("SELECT ") + column + " FROM Dictionary NOT INDEXED ORDER BY AutoID";
+    sqlite3_stmt *rows = Prepare(database, sql.c_str());
+    std::ofstream flat(flatPath.toStdString(), std::ios::binary);
+    while (sqlite3_step(rows) == SQLITE_ROW)
+        flat << Text(rows, 0) << '\n';
+    sqlite3_finalize(rows);
+    sqlite3_close(database);
+    if (!flat.flush())
+        std::abort();
 }
 
 } // namespace bench

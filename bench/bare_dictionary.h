@@ -17,4 +17,10 @@ std::size_t BareIncrementalStep(const QString &path, const std::string &word);
 /// Creates a dictionary's table, stores the rows in groups of a quarter second and builds the index.
 void BareLoad(const QString &path, std::span<const GeneratedRow> rows);
 
+/// Walks the whole index with a function that is asked for each headword and passes none.
+void BareIndexScan(const QString &path);
+
+/// Writes a column of all rows to a file of its own, a row a line, in the order of the table.
+void BareWriteColumn(const QString &path, const char *column, const QString &flatPath);
+
 } // namespace bench

@@ -28,9 +28,11 @@ bool TableScan::Next()
     if (m_generation != m_session.Generation()) {
         m_generation = m_session.Generation();
         m_onPage = false;
-        // The place is kept by key; a scan that came to its end stays there.
-        if (std::exchange(m_open, false))
-            m_upTo = m_last;
+        // The place is kept by key. The range goes on behind it, whatever stands in its pages by now.
+        if (m_open) {
+            m_behind = m_last;
+            OpenRange();
+        }
     }
     do {
         if (m_open && m_rows.Step()) {

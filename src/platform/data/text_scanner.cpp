@@ -215,24 +215,16 @@ const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsign
     const auto [firstByte, secondByte] = probe.bytes;
     const size_t firstOffset = probe.offsets[0];
     const size_t secondOffset = probe.offsets[1];
-    if (places < Width) {
-        for (const unsigned char *const last = at + places; at != last; ++at)
-            if ((at[firstOffset] | firstByte.mask) == firstByte.value &&
-                (at[secondOffset] | secondByte.mask) == secondByte.value)
-                return at;
-        return nullptr;
-    }
     const Block firstMask = Block{} + firstByte.mask;
     const Block firstValue = Block{} + firstByte.value;
     const Block secondMask = Block{} + secondByte.mask;
     const Block secondValue = Block{} + secondByte.value;
-    // The last block overlaps the one before it, so that nothing is read beyond the text.
-    const unsigned char *const lastBlock = at + (places - Width);
-    for (;;) {
-        Block first;
-        Block second;
-        std::memcpy(&first, at + firstOffset, Width);
-        std::memcpy(&second, at + secondOffset, Width);
+    const auto firstHit = [&](const unsigned char *from, size_t count) -> const unsigned char * {
+        // A short text is copied into the block, so that nothing is read beyond it.
+        Block first{};
+        Block second{};
+        std::memcpy(&first, from + firstOffset, count);
+        std::memcpy(&second, from + secondOffset, count);
         const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
         Lane lanes[Width / sizeof(Lane)];
         std::memcpy(lanes, &hits, Width);
@@ -242,11 +234,19 @@ const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsign
             size_t hit = lane * sizeof(Lane);
             while (hits[hit] == 0)
                 ++hit;
-            return at + hit;
+            return hit < count ? from + hit : nullptr;
         }
+        return nullptr;
+    };
+    if (places < Width)
+        return firstHit(at, places);
+    // The last block overlaps the one before it.
+    for (const unsigned char *const lastBlock = at + (places - Width);;
+         at = std::min(at + Width, lastBlock)) {
+        if (const unsigned char *hit = firstHit(at, Width))
+            return hit;
         if (at == lastBlock)
             return nullptr;
-        at = std::min(at + Width, lastBlock);
     }
 }
 
