@@ -1,6 +1,7 @@
 #include "unit/data/dictionary_fixture.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -162,7 +163,8 @@ TEST_F(BulkWriter, SurvivesBeingKilledAtAnyMoment)
             ASSERT_EQ(row.word, u"word %1"_s.arg(row.autoID * 7919 % 100'003));
         }
         EXPECT_EQ(std::count(seen.begin(), seen.end(), true), std::ssize(rows));
-        EXPECT_EQ(Names().filter(u"journal"_s), QStringList());
+        // One that the killed writer had open may stay until the next write, but nothing is in it.
+        EXPECT_EQ(QFileInfo(Host(name) + u"-journal"_s).size(), 0);
     }
 }
 
