@@ -185,6 +185,29 @@ struct LikePattern::Compiled {
         return false;
     }
 
+    /// Whether a character of ASCII at an end of the text fails what stands for it in front of the first
+    /// `%` or behind the last. It is a whole character wherever it stands, so nothing needs decoding.
+    bool FailsAtEnds(std::string_view utf8) const
+    {
+        const size_t length = std::min(tokens.size(), utf8.size());
+        const auto fails = [this](const Token &token, char c) {
+            return !MatchesOne(token, text::FoldCodePoint(static_cast<char32_t>(c)));
+        };
+        const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+        for (size_t i = 0; i < length && !IsAnyRun(tokens[i]) && isAscii(utf8[i]); ++i)
+            if (fails(tokens[i], utf8[i]))
+                return true;
+        for (size_t i = 1; i <= length; ++i) {
+            const Token &token = tokens[tokens.size() - i];
+            const char c = utf8[utf8.size() - i];
+            if (IsAnyRun(token) || !isAscii(c))
+                return false;
+            if (fails(token, c))
+                return true;
+        }
+        return false;
+    }
+
     /// Each `%` takes as little as it can; only the last one met is ever widened, for an earlier one
     /// could not help where a later one failed.
     bool Matches(std::u32string_view folded) const
@@ -234,6 +257,8 @@ bool LikePattern::Matches(std::string_view utf8) const
         return false;
     if (finding == TextScanner::Finding::Certain && d->isContainment)
         return true;
+    if (d->FailsAtEnds(utf8))
+        return false;
     thread_local std::u32string folded;
     text::FoldUtf8(utf8, folded);
     const bool matches = d->Matches(folded);

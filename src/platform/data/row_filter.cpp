@@ -21,17 +21,20 @@ std::string_view TextOf(sqlite3_value *value)
 {
     // The blob of a text is its bytes as they lie in the page.
     const void *bytes = sqlite3_value_blob(value);
-    const int size = sqlite3_value_bytes(value);
-    return bytes == nullptr
-               ? std::string_view()
-               : std::string_view(static_cast<const char *>(bytes), static_cast<std::size_t>(size));
+    if (bytes == nullptr)
+        return {};
+    return {static_cast<const char *>(bytes), static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
+
+bool IsNull(sqlite3_value *value) { return sqlite3_value_type(value) == SQLITE_NULL; }
 
 bool Passes(const RowTest &test, sqlite3_value *value)
 {
-    if (sqlite3_value_type(value) == SQLITE_NULL)
-        return false;
-    return test.IsNumeric() ? test.Passes(qint64(sqlite3_value_int64(value))) : test.Passes(TextOf(value));
+    if (test.IsNumeric())
+        return !IsNull(value) && test.Passes(qint64(sqlite3_value_int64(value)));
+    const std::string_view text = TextOf(value);
+    // Null gives no bytes, as an empty text does.
+    return (text.data() != nullptr || !IsNull(value)) && test.Passes(text);
 }
 
 } // namespace
@@ -40,9 +43,14 @@ bool Passes(const RowTest &test, sqlite3_value *value)
 struct RowFilter::Function {
     static void Call(sqlite3_context *context, int /*count*/, sqlite3_value **values)
     {
-        auto *filter = static_cast<RowFilter *>(sqlite3_value_pointer(values[0], kPointerType));
-        if (filter == nullptr)
-            return;
+        // SQLite keeps the filter by the call, so that the pointer's kind is looked at once a run.
+        auto *filter = static_cast<RowFilter *>(sqlite3_get_auxdata(context, 0));
+        if (filter == nullptr) {
+            filter = static_cast<RowFilter *>(sqlite3_value_pointer(values[0], kPointerType));
+            if (filter == nullptr)
+                return;
+            sqlite3_set_auxdata(context, 0, filter, nullptr);
+        }
         try {
             sqlite3_result_int(context, filter->m_hasLeftRange || Answer(*filter, values + 1));
         } catch (const std::bad_alloc &) {

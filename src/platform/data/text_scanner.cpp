@@ -48,6 +48,21 @@ std::string Utf8(char32_t codePoint)
 
 unsigned char ByteAt(std::string_view bytes, size_t at) { return static_cast<unsigned char>(bytes[at]); }
 
+/// Whether no character of several bytes stands in the text; strangers are such.
+bool IsAscii(const unsigned char *at, const unsigned char *end)
+{
+    constexpr quint64 kHighBits = 0x8080808080808080;
+    quint64 seen = 0;
+    for (; static_cast<size_t>(end - at) >= sizeof seen; at += sizeof seen) {
+        quint64 bytes;
+        std::memcpy(&bytes, at, sizeof bytes);
+        seen |= bytes;
+    }
+    for (; at != end; ++at)
+        seen |= *at;
+    return (seen & kHighBits) == 0;
+}
+
 /// The number of bits in which two forms of equal length differ.
 int DifferingBits(std::string_view left, std::string_view right)
 {
@@ -201,6 +216,29 @@ bool TextScanner::IsStrangerAt(const unsigned char *at, const unsigned char *end
     });
 }
 
+namespace
+{
+
+/// The first lane that is set; Width where none is.
+template <size_t Width>
+[[gnu::always_inline]] inline size_t FirstSet(const typename Vector<Width>::Hits &hits)
+{
+    using Lane = unsigned long long;
+    Lane lanes[Width / sizeof(Lane)];
+    std::memcpy(lanes, &hits, Width);
+    for (size_t lane = 0; lane < std::size(lanes); ++lane) {
+        if (lanes[lane] == 0)
+            continue;
+        size_t hit = lane * sizeof(Lane);
+        while (hits[hit] == 0)
+            ++hit;
+        return hit;
+    }
+    return Width;
+}
+
+} // namespace
+
 /// The first place from `at` on where both bytes of the probe stand; null for none.
 template <size_t Width>
 const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsigned char *at,
@@ -208,44 +246,34 @@ const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsign
 {
     using Block = typename Vector<Width>::Block;
     using Hits = typename Vector<Width>::Hits;
-    using Lane = unsigned long long;
     if (static_cast<size_t>(end - at) < probe.length)
         return nullptr;
     const size_t places = static_cast<size_t>(end - at) - probe.length + 1;
     const auto [firstByte, secondByte] = probe.bytes;
-    const size_t firstOffset = probe.offsets[0];
-    const size_t secondOffset = probe.offsets[1];
+    const unsigned char *const firstAt = at + probe.offsets[0];
+    const unsigned char *const secondAt = at + probe.offsets[1];
     const Block firstMask = Block{} + firstByte.mask;
     const Block firstValue = Block{} + firstByte.value;
     const Block secondMask = Block{} + secondByte.mask;
     const Block secondValue = Block{} + secondByte.value;
-    const auto firstHit = [&](const unsigned char *from, size_t count) -> const unsigned char * {
+    Block first{};
+    Block second{};
+    if (places < Width) {
         // A short text is copied into the block, so that nothing is read beyond it.
-        Block first{};
-        Block second{};
-        std::memcpy(&first, from + firstOffset, count);
-        std::memcpy(&second, from + secondOffset, count);
+        std::memcpy(&first, firstAt, places);
+        std::memcpy(&second, secondAt, places);
         const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
-        Lane lanes[Width / sizeof(Lane)];
-        std::memcpy(lanes, &hits, Width);
-        for (size_t lane = 0; lane < std::size(lanes); ++lane) {
-            if (lanes[lane] == 0)
-                continue;
-            size_t hit = lane * sizeof(Lane);
-            while (hits[hit] == 0)
-                ++hit;
-            return hit < count ? from + hit : nullptr;
-        }
-        return nullptr;
-    };
-    if (places < Width)
-        return firstHit(at, places);
+        const size_t hit = FirstSet<Width>(hits);
+        return hit < places ? at + hit : nullptr;
+    }
     // The last block overlaps the one before it.
-    for (const unsigned char *const lastBlock = at + (places - Width);;
-         at = std::min(at + Width, lastBlock)) {
-        if (const unsigned char *hit = firstHit(at, Width))
-            return hit;
-        if (at == lastBlock)
+    for (size_t place = 0;; place = std::min(place + Width, places - Width)) {
+        std::memcpy(&first, firstAt + place, Width);
+        std::memcpy(&second, secondAt + place, Width);
+        const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
+        if (const size_t hit = FirstSet<Width>(hits); hit < Width)
+            return at + place + hit;
+        if (place == places - Width)
             return nullptr;
     }
 }
@@ -256,6 +284,8 @@ TextScanner::Finding TextScanner::FindByBlocks(const unsigned char *begin, const
     for (const unsigned char *at = begin; (at = NextCandidate<Width>(m_anchors, at, end)); ++at)
         if (IsLiteralAt(at, end))
             return m_part.isExact ? Finding::Certain : Finding::Possible;
+    if (static_cast<size_t>(end - begin) < kLeastForWidest && IsAscii(begin, end))
+        return Finding::Absent;
     for (const Probe &lead : m_part.leads)
         for (const unsigned char *at = begin; (at = NextCandidate<Width>(lead, at, end)); ++at)
             if (IsStrangerAt(at, end))
