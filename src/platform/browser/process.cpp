@@ -29,9 +29,6 @@ void browser::PrepareProcess()
     if (DrawsBySoftware()) {
         SetUnlessSet("QT_QUICK_BACKEND", "software");
         flags += " --disable-gpu";
-    } else {
-        // Without it the window is made anew when the view comes into it, and keys get lost.
-        SetUnlessSet("QT_WIDGETS_RHI", "1");
     }
     // The engine refuses to run its sandbox for root.
     if (geteuid() == 0)

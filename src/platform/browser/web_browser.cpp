@@ -13,6 +13,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QQuickWidget>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -31,6 +32,17 @@ std::unique_ptr<Pane> MakePane(QWidget *parent)
     return std::make_unique<EnginePane>(parent);
 }
 
+/// What the engine's view draws on, from the start. A window that gets its first one later is made
+/// anew, and loses the keys of that moment.
+void ReserveCanvas(QWidget *parent)
+{
+    auto *canvas = new QQuickWidget(parent);
+    canvas->setFocusPolicy(Qt::NoFocus);
+    canvas->setAttribute(Qt::WA_TransparentForMouseEvents);
+    canvas->setClearColor(Qt::white);
+    canvas->resize(1, 1);
+}
+
 } // namespace
 
 void SetBackend(Backend newBackend) { backend = newBackend; }
@@ -46,6 +58,8 @@ WebBrowser::WebBrowser(QWidget *parent) : QWidget(parent)
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
+    if (backend == Backend::Engine)
+        ReserveCanvas(this);
 }
 
 WebBrowser::~WebBrowser() = default;
