@@ -27,6 +27,7 @@ namespace
 constexpr int kLongestPrint = 120'000;
 constexpr int kLongestWaitForText = 10'000;
 constexpr int kLongestWaitForStart = 1'000;
+constexpr int kLongestWaitForSelection = 500;
 constexpr int kPrintResolution = 300;
 
 /// An answer that comes later, waited for with the event loop running.
@@ -176,7 +177,15 @@ QString EnginePane::Title() const { return m_page->title(); }
 
 QString EnginePane::SelectedText() const { return m_page->selectedText(); }
 
-void EnginePane::SelectAll() { m_page->triggerAction(QWebEnginePage::SelectAll); }
+void EnginePane::SelectAll()
+{
+    // The engine selects in a process of its own; what follows at once wants the selection.
+    const LateAnswer<bool> answer;
+    QObject receiver;
+    connect(m_page, &QWebEnginePage::selectionChanged, &receiver, [taker = answer.Taker()] { taker(true); });
+    m_page->triggerAction(QWebEnginePage::SelectAll);
+    answer.Wait(kLongestWaitForSelection, QEventLoop::ExcludeUserInputEvents);
+}
 
 QString EnginePane::ShownText() const
 {
