@@ -94,19 +94,19 @@ bool TableScan::GoToPageOfInterest()
 /// Ends the range behind the pages of interest that follow each other from here on.
 void TableScan::TakePagesOfInterest()
 {
-    int run = 0;
-    qint64 last = m_behind;
-    do {
+    int run = 1;
+    qint64 last = m_leaves.LastID();
+    while ((m_onPage = m_leaves.Next()) && run < kLongestRun && MayHoldRows()) {
         last = m_leaves.LastID();
-        m_onPage = m_leaves.Next();
         ++run;
-    } while (m_onPage && run < kLongestRun && MayHoldRows());
+    }
     if (!m_onPage && !m_leaves.IsAtEnd())
         return;
     m_upTo = last;
-    if (run < kLongestRun || last == kBehindAllIDs)
+    const qint64 first = std::max(m_behind, qint64(0));
+    if (run < kLongestRun || last <= first)
         return;
-    const qint64 span = last - std::clamp(m_behind, qint64(0), last);
+    const qint64 span = last - first;
     if (span < (kBehindAllIDs - last) / kUnseenRuns) {
         m_upTo = last + span * kUnseenRuns;
         m_onPage = false;

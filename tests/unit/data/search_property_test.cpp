@@ -142,6 +142,7 @@ struct Search {
         if (found.size() > static_cast<std::size_t>(top))
             found.resize(static_cast<std::size_t>(top));
         std::vector<Entry> entries;
+        entries.reserve(found.size());
         for (const Row &row : found)
             entries.push_back({row.word, row.autoID});
         return entries;
