@@ -1,0 +1,4 @@
+#include "presentation/frmColorSelect.h"
+#include "presentation/frmFind.h"
+
+void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
