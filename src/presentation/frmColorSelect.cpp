@@ -70,6 +70,7 @@ frmColorSelect::frmColorSelect()
     : Form(QStringLiteral("frmColorSelect")), m_ui(std::make_unique<Ui::frmColorSelect>())
 {
     m_ui->setupUi(this);
+    SetDialogFrame();
     for (int row = 0; row < kFontSlots; ++row)
         MakeRow(row);
     setTabOrder(m_buttons.back(), m_ui->Command9);
@@ -139,7 +140,6 @@ void frmColorSelect::Form_Load()
     m_saved = PresentRows();
     m_buttons.front()->setFocus();
     adjustSize();
-    Centre();
 }
 
 void frmColorSelect::CommandRow_Click(int row)
