@@ -365,6 +365,13 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left
+                                                 ? QAbstractSlider::SliderSingleStepSub
+                                                 : QAbstractSlider::SliderSingleStepAdd);
+        event->accept();
+        return;
+    }
     const int before = ListIndex();
     if (before < 0 && MovesSelection(event->key()) && event->key() != Qt::Key_End && ListCount() > 0) {
         SelectQuietly(0);
