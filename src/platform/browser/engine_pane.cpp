@@ -2,6 +2,7 @@
 
 #include "platform/browser/engine_page.h"
 #include "platform/failure/runtime_error.h"
+#include "platform/host/host.h"
 
 #include <QApplication>
 #include <QChildEvent>
@@ -9,10 +10,13 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPageSetupDialog>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinterInfo>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QWebEngineFindTextResult>
 #include <QWebEngineHistory>
 #include <QWebEngineView>
@@ -67,6 +71,14 @@ private:
 /// Dialogs on this platform can be answered by nobody.
 bool NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
 
+/// Whether what is printed goes to a file that the engine can write by itself. A preview has the
+/// printer's file name too, and must not write there.
+bool MakesPdf(const QPrinter &printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty() &&
+           printer.paintEngine()->type() != QPaintEngine::Picture;
+}
+
 void RaiseUnless(bool succeeded)
 {
     if (!succeeded)
@@ -81,6 +93,8 @@ EnginePane::EnginePane(QWidget *parent)
       m_view(new QWebEngineView(parent))
 {
     m_view->setAcceptDrops(false);
+    // What takes no focus at all has no place on the keyboard's way.
+    m_view->setFocusPolicy(Qt::ClickFocus);
     m_view->installEventFilter(this);
     m_view->setPage(m_page);
     const QObjectList children = m_view->children();
@@ -202,8 +216,16 @@ void EnginePane::TakeFocus()
 
 bool EnginePane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildAdded)
-        static_cast<QChildEvent *>(event)->child()->installEventFilter(this);
+    if (event->type() == QEvent::ChildAdded) {
+        QObject *child = static_cast<QChildEvent *>(event)->child();
+        child->installEventFilter(this);
+        // Later, when it is whole. The dialogs of printing are children too, and windows.
+        if (watched == m_view)
+            QTimer::singleShot(0, child, [this, child] {
+                if (auto *widget = qobject_cast<QWidget *>(child); widget && m_view && !widget->isWindow())
+                    PutOnKeyboardsWay(*widget);
+            });
+    }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
         Q_EMIT FindAsked();
         return true;
@@ -214,6 +236,17 @@ bool EnginePane::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return Pane::eventFilter(watched, event);
+}
+
+void EnginePane::PutOnKeyboardsWay(QWidget &inner)
+{
+    // The engine's widget comes late and would stand last, before the view that hands its focus on to
+    // it. With that hand-over in place the order cannot be set.
+    QWidget *proxy = m_view->focusProxy();
+    m_view->setFocusProxy(nullptr);
+    QWidget::setTabOrder(m_view->parentWidget(), m_view);
+    QWidget::setTabOrder(m_view, &inner);
+    m_view->setFocusProxy(proxy);
 }
 
 bool EnginePane::IsFocusStolen(const QEvent &event) const
@@ -240,6 +273,9 @@ QPrinter &EnginePane::Printer()
             m_printer->setOutputFormat(QPrinter::PdfFormat);
         m_printer->setResolution(kPrintResolution);
         m_printer->setPageSize(QPageSize(QPageSize::A4));
+        constexpr qreal margin = 15;
+        m_printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
+        m_printer->setDocName(QStringLiteral("Wordmere"));
     }
     return *m_printer;
 }
@@ -248,7 +284,9 @@ bool EnginePane::PrintTo(QPrinter &printer)
 {
     const LateAnswer<bool> answer;
     QObject receiver;
-    if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
+    const auto waited = qScopeGuard([before = host::MousePointer()] { host::SetMousePointer(before); });
+    host::SetMousePointer(host::PointerHourglass);
+    if (MakesPdf(printer)) {
         connect(m_page, &QWebEnginePage::pdfPrintingFinished, &receiver,
                 [taker = answer.Taker()](const QString &, bool succeeded) { taker(succeeded); });
         m_page->printToPdf(printer.outputFileName(), printer.pageLayout());
@@ -276,6 +314,9 @@ void EnginePane::PreviewPrint()
     bool succeeded = true;
     QPrintPreviewDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("印刷プレビュー"));
+    // Wide enough for its buttons, and high enough to see a page.
+    constexpr QSize comfortable(900, 680);
+    dialog.resize(comfortable.boundedTo(m_view->screen()->availableSize()));
     connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
             [this, &succeeded](QPrinter *printer) { succeeded = PrintTo(*printer) && succeeded; });
     dialog.exec();

@@ -4,11 +4,13 @@
 #include "platform/controls/list_box_model.h"
 #include "platform/controls/white_base.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace controls
 {
@@ -255,6 +257,34 @@ bool ListBox::event(QEvent *event)
     return handled;
 }
 
+bool ListBox::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QListView::viewportEvent(event);
+    // Markup in a row is text like any other, and a long row is broken into lines.
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QString text = toolTip().isEmpty() ? QString()
+                                             : QStringLiteral("<p style=\"white-space:pre-wrap\">") +
+                                                   toolTip().toHtmlEscaped() + QStringLiteral("</p>");
+    QToolTip::showText(help->globalPos(), text, viewport(), visualRect(indexAt(help->pos())));
+    return true;
+}
+
+void ListBox::updateGeometries()
+{
+    QListView::updateGeometries();
+    // A step sideways is some letters, not a whole row.
+    constexpr int letters = 4;
+    horizontalScrollBar()->setSingleStep(letters * fontMetrics().averageCharWidth());
+}
+
+void ListBox::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int left = horizontalScrollBar()->value();
+    QListView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
+}
+
 bool ListBox::EdgeEvent(QEvent *event)
 {
     const auto type = event->type();
@@ -341,6 +371,13 @@ void ListBox::keyPressEvent(QKeyEvent *event)
     if (character == 13 || character == 27) {
         // The form's buttons may want them.
         event->ignore();
+        return;
+    }
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left
+                                                 ? QAbstractSlider::SliderSingleStepSub
+                                                 : QAbstractSlider::SliderSingleStepAdd);
+        event->accept();
         return;
     }
     const int before = ListIndex();
