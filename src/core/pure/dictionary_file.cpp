@@ -2,6 +2,12 @@
 
 #include "core/pure/record_rules.h"
 #include "platform/data/adox.h"
+#include "platform/data/dictionary_file.h"
+#include "platform/failure/runtime_error.h"
+#include "platform/files/drive_path.h"
+#include "platform/files/file_operations.h"
+
+#include <QScopeGuard>
 
 QString ViewConnectionString(const QString &path)
 {
@@ -15,7 +21,10 @@ void OpenTableByIndex(ADODB::Connection &connection, ADODB::Recordset &recordset
     recordset.SetIndex(QStringLiteral("WordID"));
 }
 
-void CreateDictionaryFile(const QString &path)
+namespace
+{
+
+void MakeDictionary(const QString &path)
 {
     const QString tableName = QStringLiteral("Dictionary");
     {
@@ -47,4 +56,28 @@ void CreateDictionaryFile(const QString &path)
     key.RelatedTable = tableName;
     key.Columns = {QStringLiteral("Word"), QStringLiteral("AutoID")};
     table.AppendKey(key);
+}
+
+void TakeAway(const QString &path) noexcept
+{
+    try {
+        files::DeleteIfThere(path);
+    } catch (const RuntimeError &) {
+        // What failed before is told; what stays bears a name of its own.
+        return;
+    }
+}
+
+} // namespace
+
+void CreateDictionaryFile(const QString &path)
+{
+    data::RequireNothingAt(files::HostPath(path));
+    // Made under another name: whatever ends the process meanwhile, nobody finds a dictionary in part.
+    const QString unfinished = path + QStringLiteral(".unfinished");
+    TakeAway(unfinished);
+    auto takeAway = qScopeGuard([&unfinished] { TakeAway(unfinished); });
+    MakeDictionary(unfinished);
+    files::Rename(unfinished, path);
+    takeAway.dismiss();
 }
