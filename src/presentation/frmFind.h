@@ -148,6 +148,7 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
+    void mnuCnv_Click();
     void Picture12_MouseDown();
     void RaisePicture(int number);
     void PressPicture(int number);
@@ -168,6 +169,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
+    /// A form that took the input away is to be closed first.
+    bool AcceptsFrameClose() const override { return TakesInput(); }
     void showEvent(QShowEvent *event) override;
 
 private:
