@@ -85,6 +85,8 @@ void frmDataConv::Form_Load()
     FormatIndex = FormatEijiro;
     m_controls->ConvDicLst->setCurrentIndex(FormatIndex);
     m_controls->DicDesc->setText(FormatDescriptions.at(FormatIndex));
+    // The boxes of both frames begin below each other.
+    m_controls->Label4->setMinimumWidth(m_controls->Label2->sizeHint().width());
     adjustSize();
     setFixedHeight(height());
     Centre();
