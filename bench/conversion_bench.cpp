@@ -4,10 +4,12 @@
 #include "core/program.h"
 #include "dictionary_generator.h"
 #include "platform/controls/controls.h"
+#include "platform/data/adodb.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/files/application_folder.h"
 #include "platform/files/drive_path.h"
 #include "platform/files/line_file.h"
+#include "platform/host/host.h"
 #include "presentation/frmFind.h"
 
 #include <QAbstractButton>
@@ -78,13 +80,43 @@ private:
     double m_lastAt = 0;
 };
 
+/// The longest time between two turns of the event loop: how long a click may wait.
+class TurnWatch
+{
+public:
+    TurnWatch()
+    {
+        m_clock.start();
+        host::SetBeforeTurnHook([this] {
+            ADODB::ReleaseReads();
+            const double now = Milliseconds(m_clock);
+            m_longest = std::max(m_longest, now - m_last);
+            m_last = now;
+        });
+    }
+    ~TurnWatch() { host::SetBeforeTurnHook(ADODB::ReleaseReads); }
+    TurnWatch(const TurnWatch &) = delete;
+    TurnWatch &operator=(const TurnWatch &) = delete;
+    double Longest() const { return m_longest; }
+
+private:
+    QElapsedTimer m_clock;
+    double m_last = 0;
+    double m_longest = 0;
+};
+
 template <typename Control> Control *ControlOf(const char *name)
 {
     return controls::Form::Named(u"frmDataConv"_s)->findChild<Control *>(QLatin1String(name));
 }
 
-/// A whole run through the dialog; milliseconds from the start to the report.
-double Convert(Answers &answers, const QString &source, const QString &target)
+struct Run {
+    double milliseconds = 0;
+    double longestTurn = 0;
+};
+
+/// A whole run through the dialog, from the start to the report.
+Run Convert(Answers &answers, const QString &source, const QString &target)
 {
     QMetaObject::invokeMethod(MainWindow()->Menu(u"mnuCnv"_s), "trigger");
     answers.UseFile(files::DrivePath(source));
@@ -93,9 +125,10 @@ double Convert(Answers &answers, const QString &source, const QString &target)
     ControlOf<QAbstractButton>("targetButton")->click();
     constexpr int settleMilliseconds = 500;
     QTest::qWait(settleMilliseconds);
+    const TurnWatch turns;
     const double begun = answers.Now();
     ControlOf<QAbstractButton>("StartButton")->click();
-    return answers.LastAt() - begun;
+    return {answers.LastAt() - begun, turns.Longest()};
 }
 
 double CountLines(const QString &source)
@@ -177,13 +210,15 @@ void Measure(uint rows, const QString &folder)
         Print(isSorted ? "bare C API, sorted source" : "bare C API, random source", rows, floor, 0);
         ForgetMemoryPeak();
         const qint64 before = MemoryFigure("VmRSS");
-        const double run = Convert(answers, source, target);
-        Print(isSorted ? "conversion, sorted source" : "conversion, random source", rows, run, floor);
+        const Run run = Convert(answers, source, target);
+        Print(isSorted ? "conversion, sorted source" : "conversion, random source", rows, run.milliseconds,
+              floor);
         std::printf("%-34s %8.1f MiB\n", "memory grown at its peak",
                     static_cast<double>(MemoryFigure("VmHWM") - before) / 1024);
+        std::printf("%-34s %8.0f ms\n", "longest time without a turn", run.longestTurn);
         if (!isSorted)
-            std::printf("%-34s %8.2f x\n", "random order against sorted", run / sorted);
-        sorted = run;
+            std::printf("%-34s %8.2f x\n", "random order against sorted", run.milliseconds / sorted);
+        sorted = run.milliseconds;
         if (!answers.LastText().startsWith(u"変換元レコード数"_s))
             std::printf("the run did not end well: %s\n", qPrintable(answers.LastText()));
         QFile::remove(target);

@@ -35,45 +35,45 @@ Course Follow(ConvFiles files, QList<bool> answers)
 }
 
 struct Row {
-    std::int16_t format;
     QString source;
     QString target;
     QList<bool> answers;
     QList<FileCheck> found;
-    bool goesOn;
     QString result;
+    std::int16_t format;
+    bool goesOn;
 };
 
 TEST(FileChecks, FollowTheirOrder)
 {
     using enum FileCheck;
     const Row table[] = {
-        {0, u""_s, u""_s, {true}, {SourceEmpty}, false, u""_s},
-        {0, u"s"_s, u""_s, {true}, {TargetEmpty}, false, u""_s},
-        {0, u"s"_s, u"C:\\dic\\a"_s, {true}, {NoPeriod}, false, u"C:\\dic\\a"_s},
-        {0, u"s"_s, u"C:a.mdb"_s, {true}, {NoBackslash}, false, u"C:a.mdb"_s},
-        {0, u"s"_s, u"a\\b.mdb"_s, {true}, {NoDrive}, false, u"a\\b.mdb"_s},
-        {0, u"s"_s, u"C:\\.mdb"_s, {true}, {NoStem}, false, u"C:\\.mdb"_s},
-        {0, u"s"_s, u"C:\\ \u3000.mdb"_s, {true}, {NoStem}, false, u"C:\\ \u3000.mdb"_s},
-        {0, u"s"_s, u"C:\\a."_s, {true}, {NoExtension}, true, u"C:\\a.mdb"_s},
-        {0, u"s"_s, u"C:\\a．"_s, {true}, {NoExtension}, true, u"C:\\a．.mdb"_s},
-        {0, u"s"_s, u"C:\\a."_s, {false, true}, {NoExtension, WrongExtension}, true, u"C:\\a.MDB"_s},
-        {0, u"s"_s, u"C:\\a."_s, {false, false}, {NoExtension, WrongExtension}, false, u"C:\\a."_s},
-        {0, u"s"_s, u"C:\\a.txt"_s, {true}, {WrongExtension}, true, u"C:\\a.MDB"_s},
-        {0, u"s"_s, u"C:\\my.dir\\a"_s, {true}, {WrongExtension}, true, u"C:\\my.MDB"_s},
-        {0, u"s"_s, u"C:\\a.txt"_s, {false}, {WrongExtension}, false, u"C:\\a.txt"_s},
-        {0, u"s"_s, u"C:\\a.mDb"_s, {}, {}, true, u"C:\\a.mDb"_s},
-        {0, u"s"_s, kTaken, {true}, {TargetExists}, true, kTaken},
-        {0, u"s"_s, kTaken, {false}, {TargetExists}, false, kTaken},
-        {0, u"s"_s, u"C:\\dic\\taken."_s, {true, false}, {NoExtension, TargetExists}, false, kTaken},
-        {FormatPdicText, u"s.Dic"_s, u"C:\\a.mdb"_s, {true}, {PdicBinary}, true, u"C:\\a.mdb"_s},
-        {FormatPdicText, u"s.dic"_s, u"C:\\a.mdb"_s, {false}, {PdicBinary}, false, u"C:\\a.mdb"_s},
-        {FormatPdicText, u"s.txt"_s, u"C:\\a.mdb"_s, {}, {}, true, u"C:\\a.mdb"_s},
-        {FormatEijiro, u"s.dic"_s, u"C:\\a.mdb"_s, {}, {}, true, u"C:\\a.mdb"_s},
-        {FormatGlossary, u"s.txt"_s, u"C:\\a.mdb"_s, {true}, {GlossaryExtension}, true, u"C:\\a.mdb"_s},
-        {FormatGlossary, u"s"_s, u"C:\\a.mdb"_s, {false}, {GlossaryExtension}, false, u"C:\\a.mdb"_s},
-        {FormatGlossary, u"s.Csv"_s, u"C:\\a.mdb"_s, {}, {}, true, u"C:\\a.mdb"_s},
-        {FormatCsv, u"s.txt"_s, u"C:\\a.mdb"_s, {}, {}, true, u"C:\\a.mdb"_s},
+        {u""_s, u""_s, {true}, {SourceEmpty}, u""_s, 0, false},
+        {u"s"_s, u""_s, {true}, {TargetEmpty}, u""_s, 0, false},
+        {u"s"_s, u"C:\\dic\\a"_s, {true}, {NoPeriod}, u"C:\\dic\\a"_s, 0, false},
+        {u"s"_s, u"C:a.mdb"_s, {true}, {NoBackslash}, u"C:a.mdb"_s, 0, false},
+        {u"s"_s, u"a\\b.mdb"_s, {true}, {NoDrive}, u"a\\b.mdb"_s, 0, false},
+        {u"s"_s, u"C:\\.mdb"_s, {true}, {NoStem}, u"C:\\.mdb"_s, 0, false},
+        {u"s"_s, u"C:\\ \u3000.mdb"_s, {true}, {NoStem}, u"C:\\ \u3000.mdb"_s, 0, false},
+        {u"s"_s, u"C:\\a."_s, {true}, {NoExtension}, u"C:\\a.mdb"_s, 0, true},
+        {u"s"_s, u"C:\\a．"_s, {true}, {NoExtension}, u"C:\\a．.mdb"_s, 0, true},
+        {u"s"_s, u"C:\\a."_s, {false, true}, {NoExtension, WrongExtension}, u"C:\\a.MDB"_s, 0, true},
+        {u"s"_s, u"C:\\a."_s, {false, false}, {NoExtension, WrongExtension}, u"C:\\a."_s, 0, false},
+        {u"s"_s, u"C:\\a.txt"_s, {true}, {WrongExtension}, u"C:\\a.MDB"_s, 0, true},
+        {u"s"_s, u"C:\\my.dir\\a"_s, {true}, {WrongExtension}, u"C:\\my.MDB"_s, 0, true},
+        {u"s"_s, u"C:\\a.txt"_s, {false}, {WrongExtension}, u"C:\\a.txt"_s, 0, false},
+        {u"s"_s, u"C:\\a.mDb"_s, {}, {}, u"C:\\a.mDb"_s, 0, true},
+        {u"s"_s, kTaken, {true}, {TargetExists}, kTaken, 0, true},
+        {u"s"_s, kTaken, {false}, {TargetExists}, kTaken, 0, false},
+        {u"s"_s, u"C:\\dic\\taken."_s, {true, false}, {NoExtension, TargetExists}, kTaken, 0, false},
+        {u"s.Dic"_s, u"C:\\a.mdb"_s, {true}, {PdicBinary}, u"C:\\a.mdb"_s, FormatPdicText, true},
+        {u"s.dic"_s, u"C:\\a.mdb"_s, {false}, {PdicBinary}, u"C:\\a.mdb"_s, FormatPdicText, false},
+        {u"s.txt"_s, u"C:\\a.mdb"_s, {}, {}, u"C:\\a.mdb"_s, FormatPdicText, true},
+        {u"s.dic"_s, u"C:\\a.mdb"_s, {}, {}, u"C:\\a.mdb"_s, FormatEijiro, true},
+        {u"s.txt"_s, u"C:\\a.mdb"_s, {true}, {GlossaryExtension}, u"C:\\a.mdb"_s, FormatGlossary, true},
+        {u"s"_s, u"C:\\a.mdb"_s, {false}, {GlossaryExtension}, u"C:\\a.mdb"_s, FormatGlossary, false},
+        {u"s.Csv"_s, u"C:\\a.mdb"_s, {}, {}, u"C:\\a.mdb"_s, FormatGlossary, true},
+        {u"s.txt"_s, u"C:\\a.mdb"_s, {}, {}, u"C:\\a.mdb"_s, FormatCsv, true},
     };
     for (const Row &row : table) {
         const Course course = Follow({row.format, row.source, row.target}, row.answers);
