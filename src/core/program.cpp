@@ -6,6 +6,7 @@
 #include "platform/browser/web_browser.h"
 #include "platform/controls/handler.h"
 #include "platform/data/adodb.h"
+#include "platform/dialogs/dialogs.h"
 #include "platform/files/application_folder.h"
 #include "presentation/frmFind.h"
 
@@ -93,6 +94,7 @@ void Program::PrepareApplication()
 
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
+    dialogs::SetBeforeBoxHook(ADODB::CommitGroups);
     ADODB::EngineHooks().progress = host::DoEvents;
     ADODB::EngineHooks().busy = [](bool busy) {
         host::SetMousePointer(busy ? host::PointerHourglass : host::PointerDefault);

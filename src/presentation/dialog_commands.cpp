@@ -1,3 +1,4 @@
+#include "conversion/frmDataConv.h"
 #include "core/shared_state.h"
 #include "platform/dialogs/dialogs.h"
 #include "presentation/frmColorSelect.h"
@@ -6,6 +7,8 @@
 
 #include <QAction>
 #include <QMenu>
+
+// The commands that open dialogs. No other file of the main window includes them.
 
 namespace
 {
@@ -19,6 +22,8 @@ bool Refused(const std::optional<Notice> &notice)
 }
 
 } // namespace
+
+void frmFind::mnuCnv_Click() { (new frmDataConv)->ShowAbove(*this); }
 
 void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
 

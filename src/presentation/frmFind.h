@@ -154,6 +154,7 @@ public:
     void mnuAddSearchCondition_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
+    void mnuCnv_Click();
     void Picture12_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
@@ -175,6 +176,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
+    /// A form that took the input away is to be closed first.
+    bool AcceptsFrameClose() const override { return TakesInput(); }
     void showEvent(QShowEvent *event) override;
 
 private:

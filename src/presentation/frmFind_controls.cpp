@@ -27,10 +27,10 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate",  u"mnuOpen",        u"mnuCnv",          u"mnuCompress",          u"mnuGoBack",
-    u"mnuGoForward",   u"mnuGoHome",      u"mnuCancel",       u"mnuReflesh",           u"mnuWildCardBuilder",
-    u"mnuHistory",     u"mnuSrchWebSite", u"mnuDicAdd",       u"mnuListSettings",      u"mnuSpeakingSetting",
-    u"mnuTopicSearch", u"mnuAbout",       u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuFileCreate",  u"mnuOpen",         u"mnuCompress",          u"mnuGoBack",          u"mnuGoForward",
+    u"mnuGoHome",      u"mnuCancel",       u"mnuReflesh",           u"mnuWildCardBuilder", u"mnuHistory",
+    u"mnuSrchWebSite", u"mnuDicAdd",       u"mnuListSettings",      u"mnuSpeakingSetting", u"mnuTopicSearch",
+    u"mnuAbout",       u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -245,6 +245,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuColorSel"), &frmFind::mnuColorSel_Click);
     Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
     Command(QString(), &frmFind::Picture10_MouseDown, 10);
+    Command(QStringLiteral("mnuCnv"), &frmFind::mnuCnv_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);

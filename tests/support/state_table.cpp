@@ -80,7 +80,7 @@ const QHash<QString, Reader> &SharedReaders()
         SHARED(CurrentAutoID),        SHARED(SavedIncSearchText), SHARED(EditOpenMode),
         SHARED(SpeechEnabled),        SHARED(CharacterFolder),    SHARED(CharacterFile),
         SHARED(CharacterPath),        SHARED(CharacterID),        SHARED(CharacterMoved),
-        SHARED(NoCharacterFile),
+        SHARED(NoCharacterFile),      SHARED(ConvStopFlag),
     };
     return readers;
 }

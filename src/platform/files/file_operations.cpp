@@ -44,6 +44,15 @@ std::filesystem::space_info SpaceAt(const QString &path)
 
 bool files::Exists(const QString &path) { return host::IsFile(HostPathOrEmpty(path)); }
 
+bool files::IsSameFile(const QString &path, const QString &other)
+{
+    const auto native = [](const QString &drivePath) {
+        return std::filesystem::path(QFile::encodeName(HostPathOrEmpty(drivePath)).toStdString());
+    };
+    std::error_code failure;
+    return std::filesystem::equivalent(native(path), native(other), failure) && !failure;
+}
+
 qint64 files::Length(const QString &path) { return RequireFile(path).size(); }
 
 QDateTime files::Modified(const QString &path) { return RequireFile(path).lastModified(); }

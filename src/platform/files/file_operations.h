@@ -14,6 +14,9 @@ namespace files
 /// Whether a file (not a folder) stands there; never raises.
 bool Exists(const QString &path);
 
+/// Whether both paths name one file that exists; never raises.
+bool IsSameFile(const QString &path, const QString &other);
+
 /// Length in bytes; raises 53.
 qint64 Length(const QString &path);
 

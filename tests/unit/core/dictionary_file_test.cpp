@@ -1,9 +1,11 @@
 #include "core/pure/dictionary_file.h"
 
 #include "platform/data/adox.h"
+#include "platform/failure/fault_points.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <vector>
@@ -70,6 +72,20 @@ TEST_F(NewDictionary, IsNotMadeOverAnother)
     Add(u"kept"_s);
     EXPECT_THROW(CreateDictionaryFile(m_path), RuntimeError);
     EXPECT_EQ(Rows(), RowList({{u"kept"_s, 1}}));
+}
+
+TEST_F(NewDictionary, IsThereWholeOrNotAtAll)
+{
+    const QString other = files::DrivePath(m_folder.filePath(u"other.mdb"_s));
+    const auto names = [this] { return QDir(m_folder.path()).entryList(QDir::Files); };
+    for (const QString &operation : {u"Create"_s, u"Append"_s, u"Open"_s, u"rename"_s}) {
+        faults::FailNext(operation, RuntimeError::DiskFull);
+        EXPECT_THROW(CreateDictionaryFile(other), RuntimeError) << operation.toStdString();
+        EXPECT_EQ(names(), QStringList(u"new.mdb"_s)) << operation.toStdString();
+        faults::Clear();
+    }
+    CreateDictionaryFile(other);
+    EXPECT_EQ(names(), (QStringList{u"new.mdb"_s, u"other.mdb"_s}));
 }
 
 TEST_F(NewDictionary, OrdersEqualHeadwordsByNumber)

@@ -28,6 +28,18 @@ TEST_F(FileOperations, ExistsMeansAFileAndNeverRaises)
         EXPECT_FALSE(files::Exists(path)) << path.toStdString();
 }
 
+TEST_F(FileOperations, KnowsOneFileByItsNames)
+{
+    Put(u"a.dat"_s, "x");
+    Put(u"b.dat"_s, "x");
+    ASSERT_TRUE(QFile::link(Host(u"a.dat"_s), Host(u"link.dat"_s)));
+    EXPECT_TRUE(files::IsSameFile(Drive(u"a.dat"_s), Drive(u"a.dat"_s)));
+    EXPECT_TRUE(files::IsSameFile(Drive(u"link.dat"_s), Drive(u"a.dat"_s)));
+    EXPECT_FALSE(files::IsSameFile(Drive(u"a.dat"_s), Drive(u"b.dat"_s)));
+    for (const QString &path : {Drive(u"none"_s), kLacked, QString()})
+        EXPECT_FALSE(files::IsSameFile(path, path)) << path.toStdString();
+}
+
 TEST_F(FileOperations, TellsLengthAndTime)
 {
     Put(u"a.dat"_s, "12345");
