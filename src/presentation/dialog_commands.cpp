@@ -1,10 +1,13 @@
+#include "aids/frmAddCondition.h"
+#include "aids/frmHistory.h"
+#include "aids/frmListSettings.h"
+#include "aids/frmSearch.h"
 #include "core/shared_state.h"
 #include "platform/dialogs/dialogs.h"
 #include "presentation/frmColorSelect.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
 
-#include <QAction>
 #include <QMenu>
 
 namespace
@@ -20,19 +23,29 @@ bool Refused(const std::optional<Notice> &notice)
 
 } // namespace
 
+void frmFind::mnuWildCardBuilder_Click()
+{
+    ClearForModeChange();
+    SetWildcardMode();
+    (new frmSearch)->ShowModal();
+}
+
 void frmFind::mnuAddSearchCondition_Click()
 {
     ClearForModeChange();
-    Refused(CompositeNotice(Shared.SearchMode));
+    // The web mode takes no conditions either, and has nothing to say about it.
+    if (!Refused(CompositeNotice(Shared.SearchMode)) && Shared.SearchMode != ModeWeb)
+        (new frmAddCondition)->ShowModal();
 }
 
-void frmFind::OfferCompositeBuilder()
+void frmFind::mnuHistory_Click()
 {
-    // Where the builder itself would open there is nothing to choose yet.
-    const bool answers = CompositeNotice(Shared.SearchMode).has_value();
-    Menu(QStringLiteral("mnuAddSearchCondition"))->setEnabled(answers);
-    PictureOf(16)->setEnabled(answers);
+    HideHitPaging();
+    StatusBar1->SetSimpleText(QString());
+    (new frmHistory)->ShowModal();
 }
+
+void frmFind::mnuListSettings_Click() { (new frmListSettings)->ShowModal(); }
 
 void frmFind::Picture10_MouseDown()
 {

@@ -27,11 +27,7 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that have work to do; the others wait, disabled, for the dialogs they open.
 constexpr std::array kServedEntries{
-    u"mnuPageSettings",       u"mnuPrint",          u"mnuPrintView",    u"mnuExit",     u"mnuCopy",
-    u"mnuSelectAll",          u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch",  u"mnuSrchFromAll",
-    u"mnuSrchFromWord",       u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch",  u"mnuPostSrch",
-    u"mnuWildCard",           u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuColorSel", u"mCancel",
-    u"mnuAddSearchCondition",
+    u"mnuPageSettings", u"mnuPrint", u"mnuPrintView", u"mnuExit", u"mnuCopy", u"mnuSelectAll", u"mnuFind", u"mnuHideListBox", u"mnuIncSrch", u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch", u"mnuMidSrch", u"mnuPostSrch", u"mnuWildCard", u"mnuTxtInMeaning", u"mnuTxtInExample", u"mnuColorSel", u"mCancel", u"mnuAddSearchCondition", u"mnuWildCardBuilder", u"mnuHistory", u"mnuListSettings",
 };
 
 struct Accelerator {
@@ -245,6 +241,9 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
     Command(QStringLiteral("mnuColorSel"), &frmFind::mnuColorSel_Click);
     Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
+    Command(QStringLiteral("mnuWildCardBuilder"), &frmFind::mnuWildCardBuilder_Click, 8);
+    Command(QStringLiteral("mnuHistory"), &frmFind::mnuHistory_Click, 9);
+    Command(QStringLiteral("mnuListSettings"), &frmFind::mnuListSettings_Click);
     Command(QString(), &frmFind::Picture10_MouseDown, 10);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
@@ -260,7 +259,7 @@ void frmFind::ConnectHandlers()
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 28};
+    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 28};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {
