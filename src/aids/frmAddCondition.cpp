@@ -16,6 +16,7 @@ frmAddCondition::frmAddCondition()
     : Form(QStringLiteral("frmAddCondition")), m_ui(std::make_unique<Ui::frmAddCondition>())
 {
     m_ui->setupUi(this);
+    SetDialogFrame();
     SetKeyButtons(m_ui->Command1, m_ui->Command2);
     using controls::ConnectHandler;
     ConnectHandler(m_ui->Command1, &QPushButton::clicked, this, &frmAddCondition::Command1_Click);

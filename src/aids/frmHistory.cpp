@@ -40,6 +40,7 @@ QString TooManyText(std::int16_t most)
 frmHistory::frmHistory() : Form(QStringLiteral("frmHistory")), m_ui(std::make_unique<Ui::frmHistory>())
 {
     m_ui->setupUi(this);
+    SetDialogFrame();
     // Enter on a row looks it up; on a button it presses that.
     SetKeyButtons(m_ui->Command4, m_ui->Command3);
     ConnectHandlers();

@@ -53,6 +53,7 @@ frmListSettings::frmListSettings()
     : Form(QStringLiteral("frmListSettings")), m_ui(std::make_unique<Ui::frmListSettings>())
 {
     m_ui->setupUi(this);
+    SetDialogFrame();
     auto *filter = new DigitFilter(this);
     for (controls::TextBox *box : {m_ui->Text1, m_ui->Text2, m_ui->Text3, m_ui->Text4})
         filter->Guard(box, box);

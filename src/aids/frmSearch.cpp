@@ -63,6 +63,7 @@ void ShowHint(QPlainTextEdit &hint, QWidget &gap, const QString &text)
 frmSearch::frmSearch() : Form(QStringLiteral("frmSearch")), m_ui(std::make_unique<Ui::frmSearch>())
 {
     m_ui->setupUi(this);
+    SetDialogFrame();
     for (controls::TextBox *box : {m_ui->Text1, m_ui->Text2, m_ui->Text3})
         box->setMaxLength(std::numeric_limits<int>::max());
     for (QPlainTextEdit *hint : {m_ui->Text4, m_ui->Text5})

@@ -27,7 +27,30 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that have work to do; the others wait, disabled, for the dialogs they open.
 constexpr std::array kServedEntries{
-    u"mnuPageSettings", u"mnuPrint", u"mnuPrintView", u"mnuExit", u"mnuCopy", u"mnuSelectAll", u"mnuFind", u"mnuHideListBox", u"mnuIncSrch", u"mnuSrchFromAll", u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch", u"mnuMidSrch", u"mnuPostSrch", u"mnuWildCard", u"mnuTxtInMeaning", u"mnuTxtInExample", u"mnuColorSel", u"mCancel", u"mnuAddSearchCondition", u"mnuWildCardBuilder", u"mnuHistory", u"mnuListSettings",
+    u"mnuPageSettings",
+    u"mnuPrint",
+    u"mnuPrintView",
+    u"mnuExit",
+    u"mnuCopy",
+    u"mnuSelectAll",
+    u"mnuFind",
+    u"mnuHideListBox",
+    u"mnuIncSrch",
+    u"mnuSrchFromAll",
+    u"mnuSrchFromWord",
+    u"mnuSrchFromPhrase",
+    u"mnuPreSrch",
+    u"mnuMidSrch",
+    u"mnuPostSrch",
+    u"mnuWildCard",
+    u"mnuTxtInMeaning",
+    u"mnuTxtInExample",
+    u"mnuColorSel",
+    u"mCancel",
+    u"mnuAddSearchCondition",
+    u"mnuWildCardBuilder",
+    u"mnuHistory",
+    u"mnuListSettings",
 };
 
 struct Accelerator {
