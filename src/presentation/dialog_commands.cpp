@@ -1,3 +1,7 @@
+#include "aids/frmAddCondition.h"
+#include "aids/frmHistory.h"
+#include "aids/frmListSettings.h"
+#include "aids/frmSearch.h"
 #include "conversion/frmDataConv.h"
 #include "core/shared_state.h"
 #include "platform/dialogs/dialogs.h"
@@ -5,10 +9,7 @@
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
 
-#include <QAction>
 #include <QMenu>
-
-// The commands that open dialogs. No other file of the main window includes them.
 
 namespace
 {
@@ -24,6 +25,43 @@ bool Refused(const std::optional<Notice> &notice)
 } // namespace
 
 void frmFind::mnuCnv_Click() { (new frmDataConv)->ShowAbove(*this); }
+
+void frmFind::mnuWildCardBuilder_Click()
+{
+    ClearForModeChange();
+    SetWildcardMode();
+    (new frmSearch)->ShowModal();
+}
+
+void frmFind::mnuAddSearchCondition_Click()
+{
+    ClearForModeChange();
+    // The web mode takes no conditions either, and has nothing to say about it.
+    if (!Refused(CompositeNotice(Shared.SearchMode)) && Shared.SearchMode != ModeWeb)
+        (new frmAddCondition)->ShowModal();
+}
+
+void frmFind::mnuHistory_Click()
+{
+    HideHitPaging();
+    StatusBar1->SetSimpleText(QString());
+    (new frmHistory)->ShowModal();
+}
+
+void frmFind::mnuListSettings_Click() { (new frmListSettings)->ShowModal(); }
+
+void frmFind::Picture10_MouseDown()
+{
+    const controls::Picture *picture = PictureOf(10);
+    m_popup->popup(picture->mapToGlobal(picture->rect().bottomLeft()));
+}
+
+void frmFind::Picture28_MouseDown()
+{
+    // No character is ever loaded, whatever the settings say.
+    constexpr bool isSpeechAvailable = false;
+    Refused(SpeechNotice(isSpeechAvailable));
+}
 
 void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
 

@@ -150,11 +150,14 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
-    void mnuColorSel_Click();
+    void mnuWildCardBuilder_Click();
     void mnuAddSearchCondition_Click();
+    void mnuHistory_Click();
+    void mnuColorSel_Click();
+    void mnuCnv_Click();
+    void mnuListSettings_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
-    void mnuCnv_Click();
     void Picture12_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
@@ -162,6 +165,9 @@ public:
     void FlatPicture(int number);
     /// Empties the entry box, the list and the page, and puts the focus back: what Esc does.
     void ClearSearch();
+    /// Puts away what the list sizes or the dictionary have made invalid: the list with its store and
+    /// its paging, the page and the entry box. The pane goes to the empty page only where it `showsPage`.
+    void ResetMainView(bool showsPage);
 
     // core/
     void ReadFontFile(const QString &name);
@@ -176,8 +182,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
-    /// A form that took the input away is to be closed first.
-    bool AcceptsFrameClose() const override { return TakesInput(); }
+    /// A form that took the input away is to be closed first. Where it left it so, the frame is the way out.
+    bool AcceptsFrameClose() const override { return !IsHeld(); }
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -27,10 +27,9 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate",  u"mnuOpen",         u"mnuCompress",          u"mnuGoBack",          u"mnuGoForward",
-    u"mnuGoHome",      u"mnuCancel",       u"mnuReflesh",           u"mnuWildCardBuilder", u"mnuHistory",
-    u"mnuSrchWebSite", u"mnuDicAdd",       u"mnuListSettings",      u"mnuSpeakingSetting", u"mnuTopicSearch",
-    u"mnuAbout",       u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuFileCreate",      u"mnuOpen",        u"mnuCompress", u"mnuGoBack",       u"mnuGoForward",
+    u"mnuGoHome",          u"mnuCancel",      u"mnuReflesh",  u"mnuSrchWebSite",  u"mnuDicAdd",
+    u"mnuSpeakingSetting", u"mnuTopicSearch", u"mnuAbout",    u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -244,8 +243,11 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
     Command(QStringLiteral("mnuColorSel"), &frmFind::mnuColorSel_Click);
     Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
-    Command(QString(), &frmFind::Picture10_MouseDown, 10);
     Command(QStringLiteral("mnuCnv"), &frmFind::mnuCnv_Click);
+    Command(QStringLiteral("mnuWildCardBuilder"), &frmFind::mnuWildCardBuilder_Click, 8);
+    Command(QStringLiteral("mnuHistory"), &frmFind::mnuHistory_Click, 9);
+    Command(QStringLiteral("mnuListSettings"), &frmFind::mnuListSettings_Click);
+    Command(QString(), &frmFind::Picture10_MouseDown, 10);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);
@@ -260,7 +262,7 @@ void frmFind::ConnectHandlers()
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array waiting{8, 9, 22, 23, 24, 25, 26, 27};
+    constexpr std::array waiting{22, 23, 24, 25, 26, 27};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {

@@ -381,8 +381,8 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     const int before = ListIndex();
-    if (before < 0 && MovesSelection(event->key()) && event->key() != Qt::Key_End && ListCount() > 0) {
-        SelectQuietly(0);
+    if (before < 0 && MovesSelection(event->key()) && ListCount() > 0) {
+        SelectQuietly(event->key() == Qt::Key_End ? ListCount() - 1 : 0);
         event->accept();
     } else {
         const QScopedValueRollback quiet(m_quiet, true);

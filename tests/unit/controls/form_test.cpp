@@ -105,6 +105,36 @@ TEST_F(FormTest, ModalShowReturnsAtOnce)
     DestroyUnloaded();
 }
 
+TEST_F(FormTest, IsHeldByTheFormThatBlockedItWhileThatIsOpen)
+{
+    auto *main = new TestForm(QStringLiteral("frmMain"));
+    main->ShowForm();
+    EXPECT_FALSE(main->IsHeld());
+    const auto open = [main] {
+        auto *dialog = new TestForm(QStringLiteral("frmDialog"));
+        dialog->onLoad = [main] { main->SetTakesInput(false); };
+        dialog->ShowModal();
+        return dialog;
+    };
+    TestForm *dialog = open();
+    EXPECT_TRUE(main->IsHeld());
+    main->SetTakesInput(true);
+    EXPECT_FALSE(main->IsHeld());
+    dialog->Unload();
+    // One that goes without giving the input back holds nothing any more.
+    dialog = open();
+    EXPECT_TRUE(main->IsHeld());
+    dialog->Unload();
+    EXPECT_FALSE(main->TakesInput());
+    EXPECT_FALSE(main->IsHeld());
+    DestroyUnloaded();
+    EXPECT_FALSE(main->IsHeld());
+    // Blocked by no form's load: held by none.
+    main->SetTakesInput(true);
+    main->SetTakesInput(false);
+    EXPECT_FALSE(main->IsHeld());
+}
+
 TEST_F(FormTest, StandsAboveTheFormShownLast)
 {
     auto *main = new TestForm(QStringLiteral("frmMain"));

@@ -130,6 +130,17 @@ TEST_F(ListBoxTest, KeysMoveTheSelection)
     EXPECT_EQ(keys, QList<int>{'c'});
 }
 
+TEST_F(ListBoxTest, KeysBeginAtAnEndWhereNoneIsSelected)
+{
+    Fill(Numbers(5));
+    input::Key(list, Qt::Key_End);
+    EXPECT_EQ(list.ListIndex(), 4);
+    list.SetListIndex(-1);
+    input::Key(list, Qt::Key_Up);
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_EQ(clicks, 2);
+}
+
 TEST_F(ListBoxTest, TellsCharactersOfKeys)
 {
     Fill(Numbers(3));
