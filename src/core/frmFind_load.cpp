@@ -26,7 +26,6 @@ QString ListFile() { return QStringLiteral("ListDefi.dat"); }
 QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
 QString StyleFile() { return QStringLiteral("sscDefi.dat"); }
 QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
-QString HelpFile() { return AppFilePath(QStringLiteral("Help.HLP")); }
 
 void TakeFontRow(int slot, const FontRow &row)
 {
@@ -192,7 +191,7 @@ void frmFind::ApplySearchTarget()
 
 void frmFind::CheckHelpFile()
 {
-    if (files::Exists(HelpFile()))
+    if (files::Exists(HelpFilePath()))
         return;
     dialogs::MsgBox(QStringLiteral("ヘルプファイルがアプリケーションフォルダから\r\n"
                                    "削除されています！ Wordmere は起動しますが、\r\n"
@@ -281,7 +280,7 @@ void frmFind::Form_Unload(controls::UnloadReason)
     if (LexiconsAllocated() != QStringLiteral("0")) {
         GuardStep([] { SaveLexicons(CatalogueFile()); });
         GuardStep([] { files::DeleteIfThere(ResultStorePath()); });
-        host::WinHelp(HelpFile(), host::HelpQuit);
+        host::WinHelp(HelpFilePath(), host::HelpQuit);
     }
     Q_EMIT Gone();
 }

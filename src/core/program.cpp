@@ -8,6 +8,7 @@
 #include "platform/data/adodb.h"
 #include "platform/files/application_folder.h"
 #include "presentation/frmFind.h"
+#include "presentation/help_viewer.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -91,6 +92,7 @@ void Program::PrepareApplication()
     if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(words);
 
+    InstallHelpViewer();
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     ADODB::EngineHooks().progress = host::DoEvents;

@@ -148,6 +148,8 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
+    void mnuTopicSearch_Click();
+    void mnuAbout_Click();
     void Picture12_MouseDown();
     void RaisePicture(int number);
     void PressPicture(int number);

@@ -22,10 +22,10 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that have work to do; the others wait, disabled, for the dialogs they open.
 constexpr std::array kServedEntries{
-    u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",    u"mnuCopy",
-    u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
-    u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
-    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample",
+    u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",        u"mnuCopy",
+    u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch",     u"mnuSrchFromAll",
+    u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch",     u"mnuPostSrch",
+    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuTopicSearch", u"mnuAbout",
 };
 
 struct Accelerator {
@@ -218,6 +218,8 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPrint"), &frmFind::mnuPrint_Click);
     Command(QStringLiteral("mnuPrintView"), &frmFind::mnuPrintView_Click);
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
+    Command(QStringLiteral("mnuTopicSearch"), &frmFind::mnuTopicSearch_Click);
+    Command(QStringLiteral("mnuAbout"), &frmFind::mnuAbout_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);
