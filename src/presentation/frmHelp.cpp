@@ -1,9 +1,9 @@
 #include "presentation/frmHelp.h"
 
+#include "core/failure_handling.h"
 #include "platform/controls/handler.h"
 #include "platform/controls/white_base.h"
-#include "platform/dialogs/dialogs.h"
-#include "presentation/frmFind.h"
+#include "platform/host/host.h"
 #include "presentation/help_view.h"
 #include "ui_frmHelp.h"
 
@@ -16,7 +16,6 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QWindow>
-#include <array>
 
 using controls::RunHandler;
 
@@ -171,6 +170,7 @@ void frmHelp::Come()
     // The window exists before it is shown, so that it never stands blocked.
     create();
     StandBesideModal();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     ShowForm();
 }
 
@@ -253,13 +253,15 @@ void frmHelp::SearchList_Click()
 
 void frmHelp::ButtonPrint_Click()
 {
+    if (host::NobodyIsThere())
+        return;
     QPrinter printer(QPrinter::HighResolution);
     if (QPrinterInfo::availablePrinterNames().isEmpty())
         printer.setOutputFormat(QPrinter::PdfFormat);
     QPrintDialog dialog(&printer, this);
     dialog.setWindowTitle(QStringLiteral("印刷"));
-    if (dialog.exec() == QDialog::Accepted)
-        m_ui->TopicView->print(&printer);
+    if (dialog.exec() == QDialog::Accepted && !m_ui->TopicView->PrintTopic(printer))
+        ShowPrintingUnsupported();
 }
 
 void frmHelp::TopicView_TopicShown()

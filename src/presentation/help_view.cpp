@@ -5,10 +5,12 @@
 #include "presentation/pure/help_search.h"
 
 #include <QApplication>
+#include <QPrinter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QWheelEvent>
 #include <algorithm>
+#include <memory>
 
 namespace
 {
@@ -94,6 +96,16 @@ void HelpView::SetZoom(int percent)
     QFont larger = font();
     larger.setPointSizeF(kUsualPoints * m_zoom / static_cast<double>(kUsualZoom));
     setFont(larger);
+}
+
+bool HelpView::PrintTopic(QPrinter &printer) const
+{
+    const std::unique_ptr<QTextDocument> copy(document()->clone());
+    QFont usual = font();
+    usual.setPointSize(kUsualPoints);
+    copy->setDefaultFont(usual);
+    copy->print(&printer);
+    return printer.printerState() != QPrinter::Error;
 }
 
 void HelpView::wheelEvent(QWheelEvent *event)

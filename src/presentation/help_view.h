@@ -4,6 +4,8 @@
 
 #include <QTextBrowser>
 
+class QPrinter;
+
 /// Shows the topics of a help book: follows links between them, keeps the way back, marks words that
 /// were sought. It loads nothing from anywhere.
 class HelpView : public QTextBrowser
@@ -22,6 +24,9 @@ public:
     void SetZoom(int percent);
     int Zoom() const { return m_zoom; }
     static constexpr int kUsualZoom = 100, kSmallestZoom = 60, kLargestZoom = 300, kZoomStep = 20;
+
+    /// Prints the topic in its usual size. False when it cannot be done.
+    bool PrintTopic(QPrinter &printer) const;
 
     QVariant loadResource(int type, const QUrl &name) override;
 

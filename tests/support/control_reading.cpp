@@ -41,10 +41,10 @@ QString ContentOf(const QTextDocument *document)
     return LinesWithCrLf(lines.join(u'\n'));
 }
 
-QString RowText(const QModelIndex &row)
+QString RowText(const QAbstractItemModel &model, const QModelIndex &row)
 {
     QStringList columns;
-    for (int column = 0; column < row.model()->columnCount(row.parent()); ++column)
+    for (int column = 0; column < model.columnCount(row.parent()); ++column)
         columns.append(row.siblingAtColumn(column).data().toString());
     return columns.join(u'\t');
 }
@@ -161,11 +161,11 @@ QStringList ItemsOf(const QWidget *widget)
     QStringList items;
     if (const auto *tree = qobject_cast<const QTreeView *>(widget)) {
         for (const QModelIndex &index : RowsOf(*tree))
-            items.append(RowText(index));
+            items.append(RowText(*model, index));
         return items;
     }
     for (int row = 0; row < model->rowCount(); ++row)
-        items.append(RowText(model->index(row, 0)));
+        items.append(RowText(*model, model->index(row, 0)));
     return items;
 }
 

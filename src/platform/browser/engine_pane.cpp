@@ -2,6 +2,7 @@
 
 #include "platform/browser/engine_page.h"
 #include "platform/failure/runtime_error.h"
+#include "platform/host/host.h"
 
 #include <QApplication>
 #include <QChildEvent>
@@ -63,9 +64,6 @@ private:
     };
     std::shared_ptr<State> m_state = std::make_shared<State>();
 };
-
-/// Dialogs on this platform can be answered by nobody.
-bool NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
 
 void RaiseUnless(bool succeeded)
 {
@@ -261,7 +259,7 @@ bool EnginePane::PrintTo(QPrinter &printer)
 
 void EnginePane::Print()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     QPrintDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("印刷"));
@@ -271,7 +269,7 @@ void EnginePane::Print()
 
 void EnginePane::PreviewPrint()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     bool succeeded = true;
     QPrintPreviewDialog dialog(&Printer(), m_view);
@@ -284,7 +282,7 @@ void EnginePane::PreviewPrint()
 
 void EnginePane::SetUpPage()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     QPageSetupDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("ページ設定"));

@@ -75,6 +75,8 @@ int host::ScreenHeight() { return ScreenSize().height(); }
 
 void host::SetScreenWidth(int pixels) { standInScreenWidth = pixels; }
 
+bool host::NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
+
 void host::SetHelpViewer(HelpViewer viewer) { helpViewer = std::move(viewer); }
 
 void host::WinHelp(const QString &helpFile, int command, const QString &topic)

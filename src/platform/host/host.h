@@ -81,6 +81,10 @@ private:
     bool m_heldElsewhere = false;
 };
 
+/// Whether the desktop's own dialogs, those for printers, can be answered by nobody, for the windows
+/// are on no screen.
+bool NobodyIsThere();
+
 /// Facts of the machine for the version dialog.
 struct SystemFacts {
     QString version;   ///< kernel or system version "major.minor"

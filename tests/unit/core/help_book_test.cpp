@@ -118,6 +118,21 @@ TEST_F(ShippedHelp, IsWhole)
     EXPECT_TRUE(m_book.topics.value(0).isChapter) << "it begins with a chapter";
 }
 
+TEST_F(ShippedHelp, TellsWhereverItIsCut)
+{
+    QFile file(QStringLiteral(WORDMERE_HELP_FILE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll().trimmed();
+    constexpr qsizetype step = 211; // cuts within characters, tags and topics
+    for (qsizetype length = 0; length < whole.size(); length += step) {
+        const HelpBook cut = ReadHelpBook(whole.first(length));
+        EXPECT_FALSE(cut.isWhole) << length;
+        EXPECT_LE(cut.topics.size(), m_book.topics.size()) << length;
+    }
+    EXPECT_FALSE(ReadHelpBook(whole.chopped(1)).isWhole);
+    EXPECT_TRUE(ReadHelpBook(whole).isWhole);
+}
+
 TEST_F(ShippedHelp, HasATopicForEachForm)
 {
     for (const QString &form : {u"frmFind"_s, u"frmHelp"_s, u"frmAbout"_s})
