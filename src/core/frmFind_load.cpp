@@ -23,7 +23,6 @@ namespace
 
 QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
 QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
-QString HelpFile() { return AppFilePath(QStringLiteral("Help.HLP")); }
 
 void MoveTo(QWidget *control, int left)
 {
@@ -133,7 +132,7 @@ void frmFind::ApplySearchTarget()
 
 void frmFind::CheckHelpFile()
 {
-    if (files::Exists(HelpFile()))
+    if (files::Exists(HelpFilePath()))
         return;
     dialogs::MsgBox(QStringLiteral("ヘルプファイルがアプリケーションフォルダから\r\n"
                                    "削除されています！ Wordmere は起動しますが、\r\n"
@@ -221,7 +220,7 @@ void frmFind::Form_Unload(controls::UnloadReason)
     if (LexiconsAllocated() != QStringLiteral("0")) {
         GuardStep([] { SaveLexicons(CatalogueFile()); });
         GuardStep([] { files::DeleteIfThere(ResultStorePath()); });
-        host::WinHelp(HelpFile(), host::HelpQuit);
+        host::WinHelp(HelpFilePath(), host::HelpQuit);
     }
     Q_EMIT Gone();
 }

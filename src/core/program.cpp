@@ -9,6 +9,7 @@
 #include "platform/dialogs/dialogs.h"
 #include "platform/files/application_folder.h"
 #include "presentation/frmFind.h"
+#include "presentation/help_viewer.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -92,6 +93,7 @@ void Program::PrepareApplication()
     if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(words);
 
+    InstallHelpViewer();
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     dialogs::SetBeforeBoxHook(ADODB::CommitGroups);

@@ -1,5 +1,5 @@
+#include "core/failure_handling.h"
 #include "platform/browser/web_browser.h"
-#include "platform/dialogs/dialogs.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/host/host.h"
 #include "platform/text/trim.h"
@@ -21,9 +21,7 @@ void frmFind::ExecPrinting(int command)
     try {
         WebBrowser1->ExecWB(command);
     } catch (const RuntimeError &) {
-        dialogs::MsgBox(
-            QStringLiteral("ご利用のオペレーティングシステム(OS)ではこの機能はサポートされていません。"),
-            dialogs::Exclamation, QStringLiteral("印刷機能未サポート"));
+        ShowPrintingUnsupported();
     }
 }
 

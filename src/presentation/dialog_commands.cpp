@@ -3,13 +3,18 @@
 #include "aids/frmListSettings.h"
 #include "aids/frmSearch.h"
 #include "conversion/frmDataConv.h"
+#include "core/pure/app_files.h"
 #include "core/shared_state.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/host/host.h"
+#include "presentation/frmAbout.h"
 #include "presentation/frmColorSelect.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
 
 #include <QMenu>
+
+// The commands that open dialogs. No other file of the main window includes them.
 
 namespace
 {
@@ -65,29 +70,6 @@ void frmFind::Picture28_MouseDown()
 
 void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
 
-void frmFind::mnuAddSearchCondition_Click()
-{
-    ClearForModeChange();
-    Refused(CompositeNotice(Shared.SearchMode));
-}
+void frmFind::mnuTopicSearch_Click() { host::WinHelp(HelpFilePath(), host::HelpFinder); }
 
-void frmFind::OfferCompositeBuilder()
-{
-    // Where the builder itself would open there is nothing to choose yet.
-    const bool answers = CompositeNotice(Shared.SearchMode).has_value();
-    Menu(QStringLiteral("mnuAddSearchCondition"))->setEnabled(answers);
-    PictureOf(16)->setEnabled(answers);
-}
-
-void frmFind::Picture10_MouseDown()
-{
-    const controls::Picture *picture = PictureOf(10);
-    m_popup->popup(picture->mapToGlobal(picture->rect().bottomLeft()));
-}
-
-void frmFind::Picture28_MouseDown()
-{
-    // No character is ever loaded, whatever the settings say.
-    constexpr bool isSpeechAvailable = false;
-    Refused(SpeechNotice(isSpeechAvailable));
-}
+void frmFind::mnuAbout_Click() { (new frmAbout)->ShowModal(); }

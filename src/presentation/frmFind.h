@@ -158,6 +158,8 @@ public:
     void mnuListSettings_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
+    void mnuTopicSearch_Click();
+    void mnuAbout_Click();
     void Picture12_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
@@ -221,8 +223,6 @@ private:
     void ClearForModeChange();
 
     // presentation/dialog_commands.cpp
-    /// Enables the composite builder's commands in the modes in which they have something to say.
-    void OfferCompositeBuilder();
 
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();

@@ -27,9 +27,9 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate",      u"mnuOpen",        u"mnuCompress", u"mnuGoBack",       u"mnuGoForward",
-    u"mnuGoHome",          u"mnuCancel",      u"mnuReflesh",  u"mnuSrchWebSite",  u"mnuDicAdd",
-    u"mnuSpeakingSetting", u"mnuTopicSearch", u"mnuAbout",    u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuFileCreate",      u"mnuOpen",         u"mnuCompress",          u"mnuGoBack",      u"mnuGoForward",
+    u"mnuGoHome",          u"mnuCancel",       u"mnuReflesh",           u"mnuSrchWebSite", u"mnuDicAdd",
+    u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -248,6 +248,8 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuHistory"), &frmFind::mnuHistory_Click, 9);
     Command(QStringLiteral("mnuListSettings"), &frmFind::mnuListSettings_Click);
     Command(QString(), &frmFind::Picture10_MouseDown, 10);
+    Command(QStringLiteral("mnuTopicSearch"), &frmFind::mnuTopicSearch_Click);
+    Command(QStringLiteral("mnuAbout"), &frmFind::mnuAbout_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);
