@@ -10,11 +10,13 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPageSetupDialog>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinterInfo>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QWebEngineFindTextResult>
 #include <QWebEngineHistory>
 #include <QWebEngineView>
@@ -68,6 +70,14 @@ private:
 
 /// Dialogs on this platform can be answered by nobody.
 bool NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
+
+/// Whether what is printed goes to a file that the engine can write by itself. A preview has the
+/// printer's file name too, and must not write there.
+bool MakesPdf(const QPrinter &printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty() &&
+           printer.paintEngine()->type() != QPaintEngine::Picture;
+}
 
 void RaiseUnless(bool succeeded)
 {
@@ -209,11 +219,12 @@ bool EnginePane::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ChildAdded) {
         QObject *child = static_cast<QChildEvent *>(event)->child();
         child->installEventFilter(this);
-        // Later, when it is whole.
-        QTimer::singleShot(0, child, [this, child] {
-            if (auto *widget = qobject_cast<QWidget *>(child); widget && m_view)
-                PutOnKeyboardsWay(*widget);
-        });
+        // Later, when it is whole. The dialogs of printing are children too, and windows.
+        if (watched == m_view)
+            QTimer::singleShot(0, child, [this, child] {
+                if (auto *widget = qobject_cast<QWidget *>(child); widget && m_view && !widget->isWindow())
+                    PutOnKeyboardsWay(*widget);
+            });
     }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
         Q_EMIT FindAsked();
@@ -262,6 +273,8 @@ QPrinter &EnginePane::Printer()
             m_printer->setOutputFormat(QPrinter::PdfFormat);
         m_printer->setResolution(kPrintResolution);
         m_printer->setPageSize(QPageSize(QPageSize::A4));
+        constexpr qreal margin = 15;
+        m_printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
         m_printer->setDocName(QStringLiteral("Wordmere"));
     }
     return *m_printer;
@@ -273,7 +286,7 @@ bool EnginePane::PrintTo(QPrinter &printer)
     QObject receiver;
     const auto waited = qScopeGuard([before = host::MousePointer()] { host::SetMousePointer(before); });
     host::SetMousePointer(host::PointerHourglass);
-    if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
+    if (MakesPdf(printer)) {
         connect(m_page, &QWebEnginePage::pdfPrintingFinished, &receiver,
                 [taker = answer.Taker()](const QString &, bool succeeded) { taker(succeeded); });
         m_page->printToPdf(printer.outputFileName(), printer.pageLayout());
@@ -301,6 +314,9 @@ void EnginePane::PreviewPrint()
     bool succeeded = true;
     QPrintPreviewDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("印刷プレビュー"));
+    // Wide enough for its buttons, and high enough to see a page.
+    constexpr QSize comfortable(900, 680);
+    dialog.resize(comfortable.boundedTo(m_view->screen()->availableSize()));
     connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
             [this, &succeeded](QPrinter *printer) { succeeded = PrintTo(*printer) && succeeded; });
     dialog.exec();

@@ -42,8 +42,8 @@ public:
     void SetUpPage() override;
     void Find(const QString &text, bool backward, const std::function<void(int, int)> &found) override;
 
-    /// Prints the page and waits until it is done: as a PDF where the printer makes one, else as
-    /// pictures of 300 dpi. False when that failed.
+    /// Prints the page and waits until it is done: as a PDF where the printer makes one, else, and for
+    /// a preview, as pictures of 300 dpi. False when that failed.
     bool PrintTo(QPrinter &printer);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -270,6 +270,14 @@ bool ListBox::viewportEvent(QEvent *event)
     return true;
 }
 
+void ListBox::updateGeometries()
+{
+    QListView::updateGeometries();
+    // A step sideways is some letters, not a whole row.
+    constexpr int letters = 4;
+    horizontalScrollBar()->setSingleStep(letters * fontMetrics().averageCharWidth());
+}
+
 void ListBox::scrollTo(const QModelIndex &index, ScrollHint hint)
 {
     const int left = horizontalScrollBar()->value();
@@ -363,6 +371,13 @@ void ListBox::keyPressEvent(QKeyEvent *event)
     if (character == 13 || character == 27) {
         // The form's buttons may want them.
         event->ignore();
+        return;
+    }
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left
+                                                 ? QAbstractSlider::SliderSingleStepSub
+                                                 : QAbstractSlider::SliderSingleStepAdd);
+        event->accept();
         return;
     }
     const int before = ListIndex();

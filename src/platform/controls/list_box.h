@@ -71,6 +71,7 @@ protected:
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    void updateGeometries() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

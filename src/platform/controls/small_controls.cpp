@@ -1,5 +1,6 @@
 #include "platform/controls/controls.h"
 
+#include "platform/controls/white_base.h"
 #include "platform/host/looks.h"
 
 #include <QKeyEvent>
@@ -57,6 +58,7 @@ void ClickLabel::keyPressEvent(QKeyEvent *event)
 
 void ClickLabel::paintEvent(QPaintEvent *event)
 {
+    PaintLightGround(*this);
     QLabel::paintEvent(event);
     PaintFocus(*this);
 }
@@ -92,6 +94,7 @@ void Picture::paintEvent(QPaintEvent *)
     constexpr int iconSize = 16;
     QRect place(0, 0, qMin(iconSize, width()), qMin(iconSize, height()));
     place.moveCenter(rect().center());
+    PaintLightGround(*this);
     {
         QPainter painter(this);
         m_icon.paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);

@@ -1,6 +1,7 @@
 #include "platform/controls/white_base.h"
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QWidget>
 
@@ -17,4 +18,11 @@ void controls::UseWhiteBase(QWidget &box)
         for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
             palette.setColor(group, role, system.color(QPalette::Active, role));
     box.setPalette(palette);
+}
+
+void controls::PaintLightGround(QWidget &control)
+{
+    constexpr int middle = 128;
+    if (control.palette().color(QPalette::Window).lightness() < middle)
+        QPainter(&control).fillRect(control.rect(), QColor(0xEF, 0xEF, 0xEF));
 }

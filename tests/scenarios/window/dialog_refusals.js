@@ -1,8 +1,8 @@
 // What commands say in the place of a dialog, and the menu of reading aloud.
 const dictionary = tempDir() + "/three.mdb";
-makeDictionary(dictionary, [["cat", null, 1, "猫", "a cat"], ["cat nap", null, 2, "うたた寝", null], ["dog", null, 1, "犬", null]]);
+makeDictionary(dictionary, ["cat", "cat nap", "dog"].map(word => [word, null, 1, "訳 " + word, "例 訳 " + word]));
 setCatalogue([{name: "三", path: dictionary, selected: true}]);
-writeText(appFile("ListDefi.dat"), "05015001000100100300\r\n");
+writeText(appFile("ListDefi.dat"), "05015001005000103000\r\n");
 start();
 
 const six = [14, 15, 17, 18, 19, 20].map(number => "frmFind.Picture" + number);
@@ -16,9 +16,10 @@ for (const [mode, name] of modes)
     for (const [way, ask] of builder) {
         const what = name + " by the " + way;
         menu(mode);
-        setText("frmFind.txtFind", "猫");
+        setText("frmFind.txtFind", mode === "mnuIncSrch" ? "c" : "訳");
         if (mode !== "mnuIncSrch")
             press("frmFind.txtFind", "Enter");
+        ok(six.filter(picture => visible(picture)).length >= 2, what + ": there is something to page through");
         const before = [items("frmFind.List1"), text("frmFind.txtFind"), state("SearchMode"), caption("frmFind"), page()];
         navigations();
         answer("OK");

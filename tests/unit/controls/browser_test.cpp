@@ -11,6 +11,8 @@
 #include "platform/text/shift_jis.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QPrintPreviewWidget>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -338,6 +340,37 @@ TEST_P(EngineTest, PrintsToAFileAndSaysWhenItCannot)
     EXPECT_GT(QFile(folder.filePath(QStringLiteral("out.pdf"))).size(), 500);
     printer.setOutputFileName(folder.filePath(QStringLiteral("no/such/folder/out.pdf")));
     EXPECT_FALSE(engine.PrintTo(printer));
+}
+
+TEST_P(EngineTest, APreviewShowsThePageAndLeavesThePrintersFileAlone)
+{
+    EnginePane engine(&window);
+    engine.Open(QUrl::fromLocalFile(files::HostPath(
+        Write(QStringLiteral("home.html"), QStringLiteral("<p>一</p><p style='break-before:page'>二</p>")))));
+    ASSERT_TRUE(input::Until([&] { return engine.ShownText().contains(QStringLiteral("二")); }));
+    ASSERT_TRUE(input::Until([&] { return !engine.IsLoading(); }));
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    const QString file = folder.filePath(QStringLiteral("printed.pdf"));
+    printer.setOutputFileName(file);
+    ASSERT_TRUE(engine.PrintTo(printer));
+    QFile printed(file);
+    ASSERT_TRUE(printed.open(QIODevice::WriteOnly));
+    printed.write("kept");
+    printed.close();
+
+    QPrintPreviewWidget preview(&printer, &window);
+    bool succeeded = false;
+    QObject::connect(&preview, &QPrintPreviewWidget::paintRequested, &preview,
+                     [&](QPrinter *previewed) { succeeded = engine.PrintTo(*previewed); });
+    preview.updatePreview();
+    EXPECT_TRUE(succeeded);
+    EXPECT_EQ(preview.pageCount(), 2);
+    EXPECT_EQ(QFileInfo(file).size(), 4);
+    // Printed from there it is the printer's again.
+    preview.print();
+    EXPECT_TRUE(succeeded);
+    EXPECT_GT(QFileInfo(file).size(), 500);
 }
 
 TEST_P(EngineTest, ANewWindowOfAWebPageIsShownInThePane)

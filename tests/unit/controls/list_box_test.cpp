@@ -225,6 +225,12 @@ TEST_F(ListBoxTest, RowsStayScrolledSideways)
     input::Key(list, Qt::Key_Home);
     EXPECT_EQ(list.ListIndex(), 0);
     EXPECT_EQ(list.horizontalScrollBar()->value(), 150);
+    // The keys alone reach the end of a long row too.
+    input::Key(list, Qt::Key_Right);
+    EXPECT_GT(list.horizontalScrollBar()->value(), 150);
+    input::Key(list, Qt::Key_Left);
+    EXPECT_EQ(list.horizontalScrollBar()->value(), 150);
+    EXPECT_EQ(list.ListIndex(), 0);
 }
 
 TEST_F(ListBoxTest, ToolTipShowsMarkupAsText)

@@ -206,6 +206,26 @@ TEST(ClickLabel, IsClickedByMouseAndKeys)
     EXPECT_EQ(clicks, 2);
 }
 
+TEST(LightGround, LiesUnderPicturesAndLabelsOnADarkThemeAlone)
+{
+    struct Case {
+        QColor window;
+        QColor ground;
+    };
+    for (const auto &[window, ground] :
+         {Case{QColor(0x35, 0x35, 0x35), QColor(0xEF, 0xEF, 0xEF)}, Case{QColor(0xFA, 0xE0, 0xC8), {}}}) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        Picture picture{QIcon()};
+        ClickLabel label;
+        for (QWidget *control : {static_cast<QWidget *>(&picture), static_cast<QWidget *>(&label)}) {
+            control->setPalette(palette);
+            control->resize(40, 20);
+            EXPECT_EQ(control->grab().toImage().pixelColor(2, 2), ground.isValid() ? ground : window);
+        }
+    }
+}
+
 TEST(StatusBar, ElidesAndTellsTheWholeText)
 {
     StatusBar bar;
