@@ -16,6 +16,7 @@
 #include "presentation/target_caption.h"
 
 #include <QAction>
+#include <QScreen>
 #include <cmath>
 
 namespace
@@ -102,10 +103,11 @@ void frmFind::LoadCatalogue()
 void frmFind::SizeWindow()
 {
     constexpr int wideScreenPixels = 800;
-    if (host::ScreenWidth() >= wideScreenPixels)
-        resize(controls::Pixels(12000), controls::Pixels(9000));
-    else
-        resize(controls::Pixels(9600), controls::Pixels(7200));
+    const bool isWide = host::ScreenWidth() >= wideScreenPixels;
+    const QSize wanted(controls::Pixels(isWide ? 12000 : 9600), controls::Pixels(isWide ? 9000 : 7200));
+    // Scaled up, a screen may be lower than that, and the title bar wants its room too.
+    constexpr QSize titleBar(0, 32);
+    resize(wanted.boundedTo(screen()->availableSize() - titleBar));
 }
 
 void frmFind::ApplyFonts()
