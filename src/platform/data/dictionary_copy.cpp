@@ -2,6 +2,7 @@
 #include "platform/data/long_work.h"
 #include "platform/data/operation.h"
 #include "platform/data/schema.h"
+#include "platform/data/structure_check.h"
 #include "platform/files/drive_path.h"
 #include "platform/text/fold.h"
 
@@ -88,12 +89,14 @@ qint64 CountInOrder(Session &session)
 
 void Verify(Session &session)
 {
+    // On a second core, if there is one, while this one walks the index.
+    StructureCheck structure(session.HostPath());
     const qint64 expected = session.NumberOf("SELECT count(*) FROM source.Dictionary NOT INDEXED");
     if (session.NumberOf("SELECT count(*) FROM main.Dictionary NOT INDEXED") != expected ||
         CountInOrder(session) != expected)
         RaiseBadCopy();
-    Prepared check = session.Prepare("PRAGMA main.quick_check(1)");
-    if (!check.Step() || check.Text(0) != "ok")
+    AwaitLongWork([&structure] { return structure.IsDone(); });
+    if (!structure.Passed())
         RaiseBadCopy();
 }
 
@@ -114,10 +117,11 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
 
 } // namespace
 
-void CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
+FileState CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
 {
     RequireNothingAt(targetPath);
     const bool withIndex = SourceHasIndex(sourcePath);
+    const FileState sourceState = StateOf(sourcePath);
     Session session(targetPath, targetDrivePath, Session::Access::Create);
     try {
         CopyInto(session, sourcePath, withIndex);
@@ -127,6 +131,7 @@ void CopyDictionary(const QString &sourcePath, const QString &targetPath, const 
         QFile::remove(targetPath);
         throw;
     }
+    return sourceState;
 }
 
 } // namespace data

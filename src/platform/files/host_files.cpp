@@ -99,7 +99,8 @@ void OpenBeside(QTemporaryFile &file, const QString &target)
         Raise(file, errno, target);
 }
 
-void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QString &to)
+void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QString &to,
+                 const std::function<void()> &yield)
 {
     constexpr qint64 kChunk = qint64{1} << 20;
     while (true) {
@@ -111,6 +112,8 @@ void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QS
             return;
         }
         WriteAll(copy, bytes, to);
+        if (yield)
+            yield();
     }
 }
 
@@ -192,7 +195,8 @@ void files::host::Open(QFile &file, const QString &path, QIODevice::OpenMode mod
         Raise(file, errno, path);
 }
 
-void files::host::Move(const QString &from, const QString &to, Target target)
+void files::host::Move(const QString &from, const QString &to, Target target,
+                       const std::function<void()> &yield)
 {
     RequireName(to);
     RequireWritable(from);
@@ -203,12 +207,13 @@ void files::host::Move(const QString &from, const QString &to, Target target)
         return;
     if (error != EXDEV)
         Raise(error, error == ENOENT ? from : to);
-    Copy(from, to, target);
+    Copy(from, to, target, yield);
     if (::unlink(QFile::encodeName(from).constData()) != 0)
         Raise(errno, from);
 }
 
-void files::host::Copy(const QString &from, const QString &to, Target target)
+void files::host::Copy(const QString &from, const QString &to, Target target,
+                       const std::function<void()> &yield)
 {
     RequireName(to);
     QFile source;
@@ -218,7 +223,7 @@ void files::host::Copy(const QString &from, const QString &to, Target target)
         throw RuntimeError(RuntimeError::FileExists);
     QTemporaryFile copy;
     OpenBeside(copy, to);
-    CopyContent(source, copy, from, to);
+    CopyContent(source, copy, from, to, yield);
     SetTimeAndPermissions(source, copy);
     if (::fsync(copy.handle()) != 0)
         Raise(errno, to);
@@ -226,6 +231,16 @@ void files::host::Copy(const QString &from, const QString &to, Target target)
     if (error != 0)
         Raise(error, to);
     copy.setAutoRemove(false);
+}
+
+void files::host::TakePermissions(const QString &path, const QString &from)
+{
+    struct stat state {
+    };
+    if (::stat(QFile::encodeName(from).constData(), &state) != 0)
+        return;
+    if (::chmod(QFile::encodeName(path).constData(), state.st_mode & 0777) != 0)
+        errno = 0;
 }
 
 void files::host::Replace(const QString &path, const QByteArray &content)

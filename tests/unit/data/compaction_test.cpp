@@ -1,8 +1,10 @@
 #include "platform/data/jro.h"
+#include "platform/data/session.h"
 #include "unit/data/dictionary_fixture.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -136,6 +138,74 @@ TEST_F(Compaction, WhatTheProgressHookRaisesEndsIt)
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(number, RuntimeError::InvalidCall);
     EXPECT_EQ(Names(), QStringList{u"a.mdb"_s});
+}
+
+TEST_F(Compaction, TellsWhenSourceOrCopyHaveChangedSince)
+{
+    const auto compactAnd = [&](const std::function<void()> &change) {
+        for (const QString &name : Names())
+            QFile::remove(Host(name));
+        CreateWith({u"a"_s, u"b"_s});
+        JRO::JetEngine engine;
+        engine.CompactDatabase(u"Data Source="_s + Drive(), u"Data Source="_s + Drive(u"b.mdb"_s));
+        change();
+        return Raised([&] { engine.RequireUnchanged(); });
+    };
+    EXPECT_EQ(compactAnd([] {}), 0);
+    EXPECT_EQ(compactAnd([&] { EXPECT_EQ(All().size(), 2U); }), 0);
+    EXPECT_EQ(compactAnd([&] { OpenTable()->Add(u"c"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { QFile::remove(Host()); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] {
+                  QFile::remove(Host());
+                  CreateWith({u"a"_s, u"b"_s});
+              }),
+              RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { OpenTable(u"b.mdb"_s)->Add(u"c"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { QFile::remove(Host(u"b.mdb"_s)); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] {
+                  QFile journal(Host() + u"-journal"_s);
+                  EXPECT_TRUE(journal.open(QIODevice::WriteOnly));
+              }),
+              RuntimeError::CannotOpenDatabase);
+}
+
+TEST_F(Compaction, AnInterruptedWriteToTheSourceIsTakenBackFirst)
+{
+    CreateWith({u"a"_s, u"b"_s});
+    // A writer that dies within a transaction leaves a journal that takes its pages back.
+    EXPECT_EQ(InChild([&] {
+                  data::Session session(Host(), Drive(), data::Session::Access::Existing);
+                  session.Run("PRAGMA cache_size = 1");
+                  session.BeginWrite();
+                  session.Run("UPDATE Dictionary SET Word = 'x'");
+                  session.Run(
+                      "INSERT INTO Dictionary(Word, Description) WITH RECURSIVE n(i) AS (SELECT 1 "
+                      "UNION ALL SELECT i + 1 FROM n WHERE i < 5000) SELECT 'x' || i, 'y' || i FROM n");
+                  return QFile::exists(Host() + u"-journal"_s) ? 0 : 1;
+              }),
+              0);
+    Compact();
+    EXPECT_EQ(All(u"b.mdb"_s), (std::vector<Entry>{{u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_F(Compaction, LetsEventsThroughAboutEvery50Milliseconds)
+{
+    Create();
+    RunRaw(
+        "INSERT INTO Dictionary(Word, Description) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
+        "FROM n WHERE i < 400000) SELECT 'headword number ' || i, 'meaning' FROM n");
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point last = Clock::now();
+    int turns = 0;
+    ADODB::EngineHooks().progress = [&] {
+        ++turns;
+        last = Clock::now();
+    };
+    const Clock::time_point start = Clock::now();
+    Compact();
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+    // The flush at the end is one step; a loaded machine may be late now and then.
+    EXPECT_GE(turns, milliseconds.count() / 250) << milliseconds.count() << " ms";
 }
 
 } // namespace
