@@ -1,5 +1,6 @@
 #include "core/pure/dictionary_file.h"
 
+#include "core/pure/record_rules.h"
 #include "platform/data/adox.h"
 
 QString ViewConnectionString(const QString &path)
@@ -22,8 +23,8 @@ void CreateDictionaryFile(const QString &path)
         ADOX::Table table;
         catalog.Create(ViewConnectionString(path) + QStringLiteral("Jet OLEDB:Engine Type=5;"));
         table.Name = tableName;
-        table.AppendColumn(QStringLiteral("Word"), ADODB::adVarWChar, 255);
-        table.AppendColumn(QStringLiteral("Pronunciation"), ADODB::adVarWChar, 64);
+        table.AppendColumn(QStringLiteral("Word"), ADODB::adVarWChar, kWordLength);
+        table.AppendColumn(QStringLiteral("Pronunciation"), ADODB::adVarWChar, kPronunciationLength);
         table.AppendColumn(QStringLiteral("WordPhrase"), ADODB::adSmallInt, 0);
         table.AppendColumn(QStringLiteral("Description"), ADODB::adLongVarWChar, 0);
         table.AppendColumn(QStringLiteral("Example"), ADODB::adLongVarWChar, 0);
