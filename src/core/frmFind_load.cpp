@@ -261,16 +261,15 @@ void frmFind::Form_Load()
     ListIsFresh = 1;
     List1->SetSizingFrame(true);
     List1->SetItemHeight(static_cast<int>(std::lround(1.3 * List1->ItemHeight())));
-    CheckModeMenu(ModeIncremental);
-    Shared.SearchMode = ModeIncremental;
-    setWindowTitle(QStringLiteral("Wordmere"));
+    TakeMode(ModeIncremental);
     ApplySearchTarget();
     StatusBar1->SetSimpleText(QStringLiteral("Ready"));
     GuardStep([this] { CheckHelpFile(); });
     GuardStep([this] { LoadCharacter(); });
     GuardStep([this] { PrepareEntryPaging(); });
     GuardStep([this] { LoadPageHeader(); });
-    List1->SetHorizontalExtent(2 * List1->viewport()->width());
+    // The client area as it will be: before the first show the list is not laid out.
+    List1->SetHorizontalExtent(2 * List1->contentsRect().width());
     GuardStep([this] { ShowBlankPage(); });
     GuardStep([this] { SetDictionaryView(); });
 }

@@ -125,6 +125,8 @@ public:
     void ChooseTarget(std::uint8_t target, const QString &caption);
     /// Checks the menu of a search mode and clears the others'.
     void CheckModeMenu(std::uint8_t mode);
+    /// Takes over a search mode of the dictionaries: check mark, number and the window's caption.
+    void TakeMode(std::uint8_t mode);
     /// Moves the focus into the list, to its first row when none is selected.
     void EnterList();
     void Combo1_Click();
@@ -148,7 +150,11 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
+    void mnuAddSearchCondition_Click();
+    /// Opens the menu of reading aloud below its picture.
+    void Picture10_MouseDown();
     void Picture12_MouseDown();
+    void Picture28_MouseDown();
     void RaisePicture(int number);
     void PressPicture(int number);
     void FlatPicture(int number);
@@ -204,6 +210,10 @@ private:
     void SetListMode(std::uint8_t mode);
     void ClearForModeChange();
 
+    // presentation/dialog_commands.cpp
+    /// Enables the composite builder's commands in the modes in which they have something to say.
+    void OfferCompositeBuilder();
+
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();
     void LoadListSettings();
@@ -220,6 +230,8 @@ private:
     void MakeControls();
     void MakeMenus();
     void MakePictures();
+    /// The keyboard's way: the row of the entry box, list, pane, then the pictures as they stand.
+    void OrderTabs();
     void ConnectHandlers();
 
     // presentation/layout.cpp

@@ -1,10 +1,13 @@
 #include "platform/browser/web_browser.h"
 #include "platform/controls/handler.h"
+#include "platform/controls/white_base.h"
 #include "presentation/frmFind.h"
-#include "presentation/menu_table.h"
+#include "presentation/pure/main_layout.h"
+#include "presentation/pure/menu_table.h"
 #include "presentation/surface.h"
 #include "presentation/target_caption.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
@@ -12,6 +15,8 @@
 #include <QShowEvent>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <numeric>
 
 using controls::RunHandler;
 
@@ -25,7 +30,7 @@ constexpr std::array kServedEntries{
     u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",    u"mnuCopy",
     u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
     u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
-    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample",
+    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mCancel",    u"mnuAddSearchCondition",
 };
 
 struct Accelerator {
@@ -52,6 +57,7 @@ frmFind::frmFind() : Form(QStringLiteral("frmFind"))
     MakeMenus();
     MakeControls();
     MakePictures();
+    OrderTabs();
     ConnectHandlers();
 }
 
@@ -124,6 +130,9 @@ void frmFind::MakeControls()
     txtFind->setAccessibleName(QStringLiteral("検索語"));
     Combo2 = named(new QComboBox(m_surface), QStringLiteral("Combo2"));
     Combo2->setEditable(true);
+    Combo2->setInsertPolicy(QComboBox::NoInsert);
+    controls::UseWhiteBase(*Combo2);
+    controls::UseWhiteBase(*Combo2->view());
     Combo2->setEditText(QStringLiteral("http://"));
     Combo2->setAccessibleName(QStringLiteral("アドレス"));
     Combo2->hide();
@@ -149,6 +158,9 @@ void frmFind::MakePictures()
     Picture00 = make(QStringLiteral("Picture00"), QStringLiteral("picture_00"), StopToolTip());
     Picture0->hide();
     Picture00->hide();
+    // These two stand out from the surface always; the one of a running search is pressed in.
+    Picture0->SetFrame(controls::Picture::Frame::Raised);
+    Picture00->SetFrame(controls::Picture::Frame::Pressed);
     m_pictures[0] = Picture0;
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number)
         m_pictures[static_cast<std::size_t>(number)] =
@@ -156,6 +168,18 @@ void frmFind::MakePictures()
                  PictureToolTip(number));
     for (const int number : {14, 15, 17, 18})
         PictureOf(number)->hide();
+}
+
+void frmFind::OrderTabs()
+{
+    std::array<int, 28> numbers{};
+    std::iota(numbers.begin(), numbers.end(), 1);
+    std::ranges::stable_sort(numbers, {}, [](int number) { return PicturePlace(number).left; });
+    QList<QWidget *> way{Combo1, Label1, txtFind, Combo2, Picture0, Picture00, List1, WebBrowser1};
+    for (const int number : numbers)
+        way.append(PictureOf(number));
+    for (qsizetype i = 1; i < way.size(); ++i)
+        setTabOrder(way[i - 1], way[i]);
 }
 
 void frmFind::Command(const QString &menu, void (frmFind::*handler)(), int picture)
@@ -218,6 +242,8 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPrint"), &frmFind::mnuPrint_Click);
     Command(QStringLiteral("mnuPrintView"), &frmFind::mnuPrintView_Click);
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
+    Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
+    Command(QString(), &frmFind::Picture10_MouseDown, 10);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);
@@ -225,13 +251,14 @@ void frmFind::ConnectHandlers()
     Command(QString(), &frmFind::Picture18_MouseDown, 18);
     Command(QString(), &frmFind::Picture19_MouseDown, 19);
     Command(QString(), &frmFind::Picture20_MouseDown, 20);
+    Command(QString(), &frmFind::Picture28_MouseDown, 28);
 
     connect(Picture0, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture0_MouseDown(); }); });
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 11, 12, 13, 14, 15, 17, 18, 19, 20};
+    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 28};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {

@@ -82,6 +82,8 @@ void frmFind::ToggleHeadwordList()
     if (Shared.ListHidden == 0) {
         Shared.ListHidden = 1;
         entry->setChecked(true);
+        if (List1->hasFocus())
+            txtFind->setFocus();
         List1->hide();
         PictureOf(14)->setEnabled(false);
         PictureOf(15)->setEnabled(false);
@@ -112,27 +114,16 @@ void frmFind::ToggleHeadwordList()
 
 void frmFind::FitPaneToList()
 {
-    TwipRect list = PlaceOf(List1);
-    TwipRect pane = PlaceOf(WebBrowser1);
-    if (list.width != m_rememberedList.width) {
-        pane.left = list.Right() + kListToPane;
-        pane.width = InnerWidth() - kMargin - pane.left;
-        Place(WebBrowser1, pane);
-        m_rememberedList.width = list.width;
-        m_rememberedPane = pane;
+    const Panes now{PlaceOf(List1), PlaceOf(WebBrowser1)};
+    const Panes fitted = FitPane(now, m_rememberedList, InnerWidth());
+    m_rememberedList.width = now.list.width;
+    if (fitted.pane != now.pane) {
+        Place(WebBrowser1, fitted.pane);
+        m_rememberedPane = fitted.pane;
         m_surface->update();
     }
-    const TwipRect before = list;
-    if (list.top != m_rememberedList.top)
-        list.top = m_rememberedList.top;
-    if (list.left != m_rememberedList.left) {
-        list.left = m_rememberedList.left;
-        list.width = pane.left - list.left - kListToPane;
-    }
-    if (list.height != m_rememberedList.height)
-        list.height = m_rememberedList.height;
-    if (list != before)
-        Place(List1, list);
+    if (fitted.list != now.list)
+        Place(List1, fitted.list);
 }
 
 void frmFind::Form_Resize()
@@ -162,22 +153,8 @@ void frmFind::Form_Resize()
     PlaceEntryRow();
 }
 
-void frmFind::RaisePicture(int number)
-{
-    PictureOf(number)->SetFrame(controls::Picture::Frame::Raised);
-    m_surface->update(PictureOf(number)->geometry().adjusted(-2, -2, 2, 2));
-}
+void frmFind::RaisePicture(int number) { PictureOf(number)->SetFrame(controls::Picture::Frame::Raised); }
 
-void frmFind::PressPicture(int number)
-{
-    PictureOf(number)->SetFrame(controls::Picture::Frame::Pressed);
-    m_surface->update(PictureOf(number)->geometry().adjusted(-2, -2, 2, 2));
-}
+void frmFind::PressPicture(int number) { PictureOf(number)->SetFrame(controls::Picture::Frame::Pressed); }
 
-void frmFind::FlatPicture(int number)
-{
-    if (PictureOf(number)->CurrentFrame() == controls::Picture::Frame::Flat)
-        return;
-    PictureOf(number)->SetFrame(controls::Picture::Frame::Flat);
-    m_surface->update(PictureOf(number)->geometry().adjusted(-2, -2, 2, 2));
-}
+void frmFind::FlatPicture(int number) { PictureOf(number)->SetFrame(controls::Picture::Frame::Flat); }

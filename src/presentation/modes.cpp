@@ -37,12 +37,18 @@ void frmFind::CheckModeMenu(std::uint8_t mode)
         Menu(QString::fromUtf16(kModeMenus[i]))->setChecked(i == mode);
 }
 
-void frmFind::EnterMode(std::uint8_t mode)
+void frmFind::TakeMode(std::uint8_t mode)
 {
-    AbandonSearch();
     CheckModeMenu(mode);
     Shared.SearchMode = mode;
     setWindowTitle(QStringLiteral("Wordmere") + QString::fromUtf16(kModeCaptions.at(mode)));
+    OfferCompositeBuilder();
+}
+
+void frmFind::EnterMode(std::uint8_t mode)
+{
+    AbandonSearch();
+    TakeMode(mode);
     if (mode != ModeIncremental)
         for (const char16_t *entry : kTargetMenus)
             Menu(QString::fromUtf16(entry))->setEnabled(true);
@@ -190,9 +196,7 @@ void frmFind::Combo1_Click()
         PictureOf(number)->hide();
     if (Shared.SearchMode != ModeIncremental)
         files::DeleteIfThere(ResultStorePath());
-    CheckModeMenu(ModeIncremental);
-    Shared.SearchMode = ModeIncremental;
-    setWindowTitle(QStringLiteral("Wordmere"));
+    TakeMode(ModeIncremental);
     ChangeWordEntryBoxSize(0);
     SetTarget(TargetAll, TargetCaption(TargetAll));
     txtFind->SetText(QString());

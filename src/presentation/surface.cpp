@@ -22,6 +22,14 @@ void DrawFrame(QPainter &painter, const QRect &inner, const QColor &upperLeft, c
     painter.drawLine(frame.topLeft(), frame.bottomLeft());
 }
 
+void DrawFrameOf(QPainter &painter, const controls::Picture &picture)
+{
+    if (picture.isHidden() || picture.CurrentFrame() == controls::Picture::Frame::Flat)
+        return;
+    const bool raised = picture.CurrentFrame() == controls::Picture::Frame::Raised;
+    DrawFrame(painter, picture.geometry(), raised ? kLight : kShade, raised ? kShade : kLight);
+}
+
 } // namespace
 
 Surface::Surface(frmFind &window) : QWidget(&window), m_window(window)
@@ -33,13 +41,10 @@ Surface::Surface(frmFind &window) : QWidget(&window), m_window(window)
 void Surface::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    for (int number = 1; number <= 28; ++number) {
-        const controls::Picture *picture = m_window.PictureOf(number);
-        if (picture->isHidden() || picture->CurrentFrame() == controls::Picture::Frame::Flat)
-            continue;
-        const bool raised = picture->CurrentFrame() == controls::Picture::Frame::Raised;
-        DrawFrame(painter, picture->geometry(), raised ? kLight : kShade, raised ? kShade : kLight);
-    }
+    for (int number = 1; number <= 28; ++number)
+        DrawFrameOf(painter, *m_window.PictureOf(number));
+    for (const controls::Picture *picture : {m_window.Picture0, m_window.Picture00})
+        DrawFrameOf(painter, *picture);
     const QRect pane = m_window.PaneFrame();
     painter.fillRect(pane, Qt::white);
     painter.setPen(palette().color(QPalette::Mid));

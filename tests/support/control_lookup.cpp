@@ -1,5 +1,6 @@
 #include "control_lookup.h"
 
+#include "platform/browser/web_browser.h"
 #include "platform/controls/form.h"
 #include "presentation/frmFind.h"
 #include "script_error.h"
@@ -75,6 +76,10 @@ QString AddressOf(const QWidget *widget)
     if (!widget)
         return {};
     const QWidget *window = widget->window();
+    // Of the pane the user sees one control, whatever of its view or find bar has the keys.
+    for (const QWidget *w = widget; w != window; w = w->parentWidget())
+        if (qobject_cast<const browser::WebBrowser *>(w))
+            widget = w;
     for (const QWidget *w = widget; w != window; w = w->parentWidget())
         if (!w->objectName().isEmpty() && !w->objectName().startsWith(QLatin1String("qt_")) &&
             !w->objectName().startsWith(QLatin1String("m_")))

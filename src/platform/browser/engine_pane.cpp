@@ -2,6 +2,7 @@
 
 #include "platform/browser/engine_page.h"
 #include "platform/failure/runtime_error.h"
+#include "platform/host/host.h"
 
 #include <QApplication>
 #include <QChildEvent>
@@ -12,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinterInfo>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QWebEngineFindTextResult>
 #include <QWebEngineHistory>
@@ -81,6 +83,8 @@ EnginePane::EnginePane(QWidget *parent)
       m_view(new QWebEngineView(parent))
 {
     m_view->setAcceptDrops(false);
+    // What takes no focus at all has no place on the keyboard's way.
+    m_view->setFocusPolicy(Qt::ClickFocus);
     m_view->installEventFilter(this);
     m_view->setPage(m_page);
     const QObjectList children = m_view->children();
@@ -202,8 +206,15 @@ void EnginePane::TakeFocus()
 
 bool EnginePane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildAdded)
-        static_cast<QChildEvent *>(event)->child()->installEventFilter(this);
+    if (event->type() == QEvent::ChildAdded) {
+        QObject *child = static_cast<QChildEvent *>(event)->child();
+        child->installEventFilter(this);
+        // Later, when it is whole.
+        QTimer::singleShot(0, child, [this, child] {
+            if (auto *widget = qobject_cast<QWidget *>(child); widget && m_view)
+                PutOnKeyboardsWay(*widget);
+        });
+    }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
         Q_EMIT FindAsked();
         return true;
@@ -214,6 +225,17 @@ bool EnginePane::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return Pane::eventFilter(watched, event);
+}
+
+void EnginePane::PutOnKeyboardsWay(QWidget &inner)
+{
+    // The engine's widget comes late and would stand last, before the view that hands its focus on to
+    // it. With that hand-over in place the order cannot be set.
+    QWidget *proxy = m_view->focusProxy();
+    m_view->setFocusProxy(nullptr);
+    QWidget::setTabOrder(m_view->parentWidget(), m_view);
+    QWidget::setTabOrder(m_view, &inner);
+    m_view->setFocusProxy(proxy);
 }
 
 bool EnginePane::IsFocusStolen(const QEvent &event) const
@@ -240,6 +262,7 @@ QPrinter &EnginePane::Printer()
             m_printer->setOutputFormat(QPrinter::PdfFormat);
         m_printer->setResolution(kPrintResolution);
         m_printer->setPageSize(QPageSize(QPageSize::A4));
+        m_printer->setDocName(QStringLiteral("Wordmere"));
     }
     return *m_printer;
 }
@@ -248,6 +271,8 @@ bool EnginePane::PrintTo(QPrinter &printer)
 {
     const LateAnswer<bool> answer;
     QObject receiver;
+    const auto waited = qScopeGuard([before = host::MousePointer()] { host::SetMousePointer(before); });
+    host::SetMousePointer(host::PointerHourglass);
     if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
         connect(m_page, &QWebEnginePage::pdfPrintingFinished, &receiver,
                 [taker = answer.Taker()](const QString &, bool succeeded) { taker(succeeded); });

@@ -52,6 +52,7 @@ private:
     void ConnectPage();
     void ReviveAfterCrash();
     bool IsFocusStolen(const QEvent &event) const;
+    void PutOnKeyboardsWay(QWidget &inner);
     QPrinter &Printer();
 
     QWebEngineProfile *m_profile;

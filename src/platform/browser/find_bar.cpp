@@ -12,15 +12,21 @@ namespace browser
 
 FindBar::FindBar(QWidget *parent)
     : QWidget(parent), m_text(new controls::TextBox(this)),
-      m_previous(MakeButton(QStringLiteral("前へ"), QStringLiteral("前の一致箇所 (Shift+Enter)"))),
-      m_next(MakeButton(QStringLiteral("次へ"), QStringLiteral("次の一致箇所 (Enter)"))),
+      m_previous(MakeButton(QStringLiteral("FindPrevious"), QStringLiteral("前へ"),
+                            QStringLiteral("前の一致箇所 (Shift+Enter)"))),
+      m_next(MakeButton(QStringLiteral("FindNext"), QStringLiteral("次へ"),
+                        QStringLiteral("次の一致箇所 (Enter)"))),
       m_count(new QLabel(this))
 {
+    setObjectName(QStringLiteral("FindBar"));
+    m_text->setObjectName(QStringLiteral("FindText"));
+    m_count->setObjectName(QStringLiteral("FindCount"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *label = new QLabel(QStringLiteral("検索:"), this);
-    QToolButton *close = MakeButton(QStringLiteral("×"), QStringLiteral("閉じる (Esc)"));
+    QToolButton *close =
+        MakeButton(QStringLiteral("FindClose"), QStringLiteral("×"), QStringLiteral("閉じる (Esc)"));
     close->setAccessibleName(QStringLiteral("閉じる"));
     label->setBuddy(m_text);
     m_text->setAccessibleName(QStringLiteral("表示内容中の検索文字列"));
@@ -46,9 +52,10 @@ FindBar::FindBar(QWidget *parent)
     ShowCount(0, 0);
 }
 
-QToolButton *FindBar::MakeButton(const QString &text, const QString &toolTip)
+QToolButton *FindBar::MakeButton(const QString &name, const QString &text, const QString &toolTip)
 {
     auto *button = new QToolButton(this);
+    button->setObjectName(name);
     button->setText(text);
     button->setToolTip(toolTip);
     button->setAutoRaise(true);

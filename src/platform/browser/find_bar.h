@@ -12,7 +12,8 @@ class TextBox;
 namespace browser
 {
 
-/// The slim bar below the pane that looks for a text in the page.
+/// The slim bar below the pane that looks for a text in the page: FindText, FindPrevious, FindNext,
+/// FindCount, FindClose.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -30,7 +31,7 @@ Q_SIGNALS:
 private:
     void Request(bool backward);
     void HandleKey(int character, bool *swallow);
-    QToolButton *MakeButton(const QString &text, const QString &toolTip);
+    QToolButton *MakeButton(const QString &name, const QString &text, const QString &toolTip);
 
     controls::TextBox *m_text;
     QToolButton *m_previous;

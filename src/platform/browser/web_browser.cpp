@@ -74,6 +74,14 @@ void WebBrowser::CreateView()
     auto *rows = static_cast<QVBoxLayout *>(layout());
     rows->addWidget(m_pane->View(), 1);
     rows->addWidget(m_findBar);
+    // The keyboard's way leads to the view itself, then through the bar, and not back to this frame.
+    setFocusPolicy(Qt::ClickFocus);
+    QWidget *last = this;
+    const QList<QWidget *> parts = QList<QWidget *>{m_pane->View()} + m_findBar->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        setTabOrder(last, part);
+        last = part;
+    }
     connect(m_pane.get(), &Pane::StatusChanged, this, &WebBrowser::StatusTextChange);
     connect(m_pane.get(), &Pane::TitleChanged, this, &WebBrowser::TitleChange);
     connect(m_pane.get(), &Pane::FindAsked, this, &WebBrowser::ShowFindBar);

@@ -14,6 +14,10 @@ ComboBox::ComboBox(QWidget *parent) : QComboBox(parent)
 {
     UseWhiteBase(*this);
     UseWhiteBase(*view());
+    // The users' colours are chosen against light; a dark theme's button would swallow them.
+    QPalette light = palette();
+    light.setColor(QPalette::Button, QColor(0xEF, 0xEF, 0xEF));
+    setPalette(light);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(20);
     connect(this, &QComboBox::activated, this, &ComboBox::Click);

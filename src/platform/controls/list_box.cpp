@@ -4,11 +4,13 @@
 #include "platform/controls/list_box_model.h"
 #include "platform/controls/white_base.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace controls
 {
@@ -253,6 +255,26 @@ bool ListBox::event(QEvent *event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         PlaceGrip();
     return handled;
+}
+
+bool ListBox::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QListView::viewportEvent(event);
+    // Markup in a row is text like any other, and a long row is broken into lines.
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QString text = toolTip().isEmpty() ? QString()
+                                             : QStringLiteral("<p style=\"white-space:pre-wrap\">") +
+                                                   toolTip().toHtmlEscaped() + QStringLiteral("</p>");
+    QToolTip::showText(help->globalPos(), text, viewport(), visualRect(indexAt(help->pos())));
+    return true;
+}
+
+void ListBox::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int left = horizontalScrollBar()->value();
+    QListView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
 }
 
 bool ListBox::EdgeEvent(QEvent *event)

@@ -50,6 +50,9 @@ public:
     /// Lets the user drag the right edge; EdgeDragged tells the new width in pixels.
     void SetSizingFrame(bool on);
 
+    /// Brings a row into sight; how far the rows are scrolled sideways is the user's alone.
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
 Q_SIGNALS:
     void Click();
     void DblClick();
@@ -67,6 +70,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

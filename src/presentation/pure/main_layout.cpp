@@ -1,5 +1,6 @@
 #include "presentation/pure/main_layout.h"
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -52,8 +53,25 @@ controls::TwipRect StatusPlace(int innerWidth, int innerHeight)
 EntryRow PlaceEntry(int paneRight, int kind)
 {
     constexpr int gap = 50;
-    const controls::TwipRect button{paneRight - kPictureWidth, kDictionaryBox.top + 15, kPictureWidth,
-                                    kPictureHeight};
+    const controls::TwipRect button{std::max(kPaneLeft, paneRight - kPictureWidth), kDictionaryBox.top + 15,
+                                    kPictureWidth, kPictureHeight};
     const int right = kind == 1 ? button.left - gap : paneRight;
-    return {{kPaneLeft, kDictionaryBox.top, right - kPaneLeft, kDictionaryBox.height}, button};
+    return {{kPaneLeft, kDictionaryBox.top, std::max(0, right - kPaneLeft), kDictionaryBox.height}, button};
+}
+
+Panes FitPane(const Panes &now, const controls::TwipRect &rememberedList, int innerWidth)
+{
+    Panes fitted = now;
+    auto &[list, pane] = fitted;
+    if (list.width != rememberedList.width) {
+        pane.left = list.Right() + kListToPane;
+        pane.width = innerWidth - kMargin - pane.left;
+    }
+    list.top = rememberedList.top;
+    if (list.left != rememberedList.left) {
+        list.left = rememberedList.left;
+        list.width = pane.left - list.left - kListToPane;
+    }
+    list.height = rememberedList.height;
+    return fitted;
 }

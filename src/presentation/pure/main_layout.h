@@ -31,5 +31,13 @@ struct EntryRow {
     controls::TwipRect entryBox, startButton;
 };
 /// The entry box and the start button, which end where the pane ends. Kind 0: the entry box takes
-/// the button's room.
+/// the button's room. Where there is too little room, nothing gets in front of the entry box's left.
 EntryRow PlaceEntry(int paneRight, int kind);
+
+struct Panes {
+    controls::TwipRect list, pane;
+    bool operator==(const Panes &) const = default;
+};
+/// List and pane when the user has moved an edge of the list: its right edge takes the pane with it,
+/// the others go back to where they were remembered.
+Panes FitPane(const Panes &now, const controls::TwipRect &rememberedList, int innerWidth);

@@ -3,7 +3,9 @@
 #include "input.h"
 
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 using controls::ListBox;
@@ -209,6 +211,38 @@ TEST_F(ListBoxTest, HasAnItemHeightAndAnExtent)
     QApplication::processEvents();
     EXPECT_EQ(list.visualRect(list.model()->index(1, 0)).height(), 31);
     EXPECT_EQ(list.horizontalScrollBar()->maximum(), 400 - list.viewport()->width());
+}
+
+TEST_F(ListBoxTest, RowsStayScrolledSideways)
+{
+    Fill(Numbers(100));
+    list.SetHorizontalExtent(600);
+    QApplication::processEvents();
+    list.horizontalScrollBar()->setValue(150);
+    list.SetListIndex(90);
+    EXPECT_EQ(list.horizontalScrollBar()->value(), 150);
+    EXPECT_TRUE(list.viewport()->rect().intersects(list.visualRect(list.model()->index(90, 0))));
+    input::Key(list, Qt::Key_Home);
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_EQ(list.horizontalScrollBar()->value(), 150);
+}
+
+TEST_F(ListBoxTest, ToolTipShowsMarkupAsText)
+{
+    Fill({QStringLiteral("<b>a</b> & b")});
+    const auto ask = [this] {
+        const QPoint where = Middle(0).toPoint();
+        QHelpEvent event(QEvent::ToolTip, where, list.viewport()->mapToGlobal(where));
+        QApplication::sendEvent(list.viewport(), &event);
+    };
+    list.setToolTip(list.List(0));
+    ask();
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("&lt;b&gt;a&lt;/b&gt; &amp; b")))
+        << QToolTip::text();
+    list.setToolTip(QString());
+    ask();
+    EXPECT_TRUE(input::Until([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(ListBoxTest, RightEdgeIsDraggedWithinItsParent)

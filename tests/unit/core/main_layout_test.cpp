@@ -48,6 +48,45 @@ TEST(MainLayout, EntryBoxEndsWithThePaneOrBeforeTheButton)
     EXPECT_EQ(shared.entryBox.left, kPaneLeft);
 }
 
+TEST(MainLayout, EntryBoxWithoutRoomStaysInItsPlace)
+{
+    for (const int kind : {0, 1})
+        for (const int paneRight : {-500, 0, 200, kPaneLeft, kPaneLeft + 100}) {
+            const EntryRow row = PlaceEntry(paneRight, kind);
+            EXPECT_EQ(row.entryBox.left, kPaneLeft) << paneRight;
+            EXPECT_GE(row.entryBox.width, 0) << paneRight;
+            EXPECT_GE(row.startButton.left, kPaneLeft) << paneRight;
+            EXPECT_EQ(row.startButton.width, 255) << paneRight;
+        }
+}
+
+TEST(MainLayout, PaneFollowsTheListsRightEdgeAndTheOthersSnapBack)
+{
+    const TwipRect remembered{120, 840, 3550, 6000};
+    const TwipRect pane{3720, 870, 8000, 5910};
+    constexpr int inner = 11840;
+    struct Case {
+        const char *what;
+        TwipRect list;
+        Panes expected;
+    };
+    const Case cases[] = {
+        {"nothing moved", remembered, {remembered, pane}},
+        {"the right edge", {120, 840, 4500, 6000}, {{120, 840, 4500, 6000}, {4670, 870, 7050, 5910}}},
+        {"the right edge back", {120, 840, 1500, 6000}, {{120, 840, 1500, 6000}, {1670, 870, 10050, 5910}}},
+        {"the whole list upwards", {120, 700, 3550, 6000}, {remembered, pane}},
+        {"the upper edge", {120, 600, 3550, 6240}, {remembered, pane}},
+        {"the lower edge", {120, 840, 3550, 5000}, {remembered, pane}},
+        // The list ends 50 before the pane, wherever its left edge was dropped.
+        {"the left edge", {620, 840, 3050, 6000}, {{120, 840, 3550, 6000}, {3720, 870, 8000, 5910}}},
+        {"the left edge outwards", {0, 840, 3670, 6000}, {{120, 840, 3550, 6000}, {3720, 870, 8000, 5910}}},
+        {"two edges", {120, 840, 5000, 5500}, {{120, 840, 5000, 6000}, {5170, 870, 6550, 5910}}},
+        {"a corner", {300, 900, 4000, 5500}, {{120, 840, 4180, 6000}, {4350, 870, 7370, 5910}}},
+    };
+    for (const Case &each : cases)
+        EXPECT_EQ(FitPane({each.list, pane}, remembered, inner), each.expected) << each.what;
+}
+
 TEST(Twips, RoundToWholePixels)
 {
     EXPECT_EQ(controls::Pixels(0), 0);

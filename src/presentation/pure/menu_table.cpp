@@ -1,4 +1,4 @@
-#include "presentation/menu_table.h"
+#include "presentation/pure/menu_table.h"
 
 #include <array>
 
