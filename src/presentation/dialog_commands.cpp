@@ -1,5 +1,9 @@
 #include "core/shared_state.h"
+#include "management/frmDBCompress.h"
+#include "management/frmDicList.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/files/file_operations.h"
+#include "platform/host/host.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
 
@@ -17,7 +21,24 @@ bool Refused(const std::optional<Notice> &notice)
     return notice.has_value();
 }
 
+/// The same, with a beep, for a dialog that works on the dictionary in use.
+bool IsDictionaryMissing(DictionaryDialog dialog)
+{
+    const auto notice = DictionaryNotice(dialog, Shared.CurrentDicPath, files::Exists(Shared.CurrentDicPath));
+    if (notice)
+        host::MessageBeep(host::BeepExclamation);
+    return Refused(notice);
+}
+
 } // namespace
+
+void frmFind::mnuDicAdd_Click() { (new frmDicList)->ShowModal(); }
+
+void frmFind::mnuCompress_Click()
+{
+    if (!IsDictionaryMissing(DictionaryDialog::Compaction))
+        (new frmDBCompress)->ShowModal();
+}
 
 void frmFind::mnuAddSearchCondition_Click()
 {

@@ -142,6 +142,8 @@ public:
     void mnuWildCard_Click();
     void mnuTxtInMeaning_Click();
     void mnuTxtInExample_Click();
+    void mnuDicAdd_Click();
+    void mnuCompress_Click();
     void mnuHideListBox_Click();
     void mnuExit_Click();
     void mnuCopy_Click();
@@ -174,6 +176,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
+    /// A form that took the input away is to be closed first.
+    bool AcceptsFrameClose() const override { return TakesInput(); }
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -31,6 +31,7 @@ constexpr std::array kServedEntries{
     u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
     u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
     u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mCancel",    u"mnuAddSearchCondition",
+    u"mnuDicAdd",       u"mnuCompress",
 };
 
 struct Accelerator {
@@ -234,6 +235,8 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuWildCard"), &frmFind::mnuWildCard_Click, 5);
     Command(QStringLiteral("mnuTxtInMeaning"), &frmFind::mnuTxtInMeaning_Click, 6);
     Command(QStringLiteral("mnuTxtInExample"), &frmFind::mnuTxtInExample_Click, 7);
+    Command(QStringLiteral("mnuDicAdd"), &frmFind::mnuDicAdd_Click);
+    Command(QStringLiteral("mnuCompress"), &frmFind::mnuCompress_Click);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);

@@ -7,7 +7,10 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QScreen>
+#include <QWindow>
+#include <algorithm>
 
 namespace controls
 {
@@ -78,9 +81,26 @@ void Form::ShowForm()
 
 void Form::ShowModal()
 {
-    if (!isVisible())
+    const QPointer<Form> self(this);
+    Load();
+    if (!self || !m_loaded)
+        return;
+    if (!isVisible()) {
         setWindowModality(Qt::ApplicationModal);
+        StandBeforeOwner();
+    }
     ShowForm();
+}
+
+void Form::StandBeforeOwner()
+{
+    // Else a click on the window below would bring that in front, and hide what it waits for.
+    const auto isOwner = [this](const Form *form) { return form != this && form->isVisible(); };
+    const auto owner = std::find_if(loadedForms.crbegin(), loadedForms.crend(), isOwner);
+    if (owner == loadedForms.crend())
+        return;
+    create();
+    windowHandle()->setTransientParent((*owner)->windowHandle());
 }
 
 bool Form::Unload(UnloadReason reason)
@@ -195,8 +215,9 @@ void Form::keyPressEvent(QKeyEvent *event)
 {
     QAbstractButton *button = nullptr;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
-        button = focused ? focused : m_enterButton.data();
+        // A check box leaves Enter to the form.
+        auto *focused = qobject_cast<QPushButton *>(focusWidget());
+        button = focused ? static_cast<QAbstractButton *>(focused) : m_enterButton.data();
     } else if (event->key() == Qt::Key_Escape) {
         button = m_escapeButton;
     }

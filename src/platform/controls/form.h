@@ -71,6 +71,7 @@ private:
     bool IsUnloadRefused(UnloadReason reason);
     void UndoLoad();
     void Leave();
+    void StandBeforeOwner();
 
     bool m_loaded = false;
     bool m_unloading = false;
