@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <chrono>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -186,6 +188,32 @@ TEST_F(Compaction, AnInterruptedWriteToTheSourceIsTakenBackFirst)
               0);
     Compact();
     EXPECT_EQ(All(u"b.mdb"_s), (std::vector<Entry>{{u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_F(Compaction, ASourceThatAnotherProgramLocksIsWaitedForAndTold)
+{
+    CreateWith({u"a"_s});
+    int toChild[2];
+    int toParent[2];
+    ASSERT_EQ(pipe(toChild), 0);
+    ASSERT_EQ(pipe(toParent), 0);
+    char token = 'x';
+    const pid_t child = fork();
+    if (child == 0) {
+        data::Session session(Host(), Drive(), data::Session::Access::Existing);
+        session.Run("BEGIN EXCLUSIVE");
+        const bool told = write(toParent[1], &token, 1) == 1 && read(toChild[0], &token, 1) == 1;
+        _exit(told ? 0 : 1);
+    }
+    ASSERT_EQ(read(toParent[0], &token, 1), 1);
+    EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_FALSE(QFile::exists(Host(u"b.mdb"_s)));
+    ASSERT_EQ(write(toChild[1], &token, 1), 1);
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    Compact();
+    EXPECT_EQ(All(u"b.mdb"_s).size(), 1U);
 }
 
 TEST_F(Compaction, LetsEventsThroughAboutEvery50Milliseconds)
