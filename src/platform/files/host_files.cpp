@@ -7,8 +7,10 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
+#include <future>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -115,6 +117,20 @@ void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QS
         if (yield)
             yield();
     }
+}
+
+/// Writes the file through to the disk: errno, or 0. With a `yield` on a thread of its own, for it may
+/// take seconds.
+int Flush(int handle, const std::function<void()> &yield)
+{
+    const auto flush = [handle] { return ::fsync(handle) == 0 ? 0 : errno; };
+    if (!yield)
+        return flush();
+    std::future<int> error = std::async(std::launch::async, flush);
+    constexpr std::chrono::milliseconds interval{10};
+    while (error.wait_for(interval) != std::future_status::ready)
+        yield();
+    return error.get();
 }
 
 void SetTimeAndPermissions(const QFile &source, const QFileDevice &copy)
@@ -225,8 +241,8 @@ void files::host::Copy(const QString &from, const QString &to, Target target,
     OpenBeside(copy, to);
     CopyContent(source, copy, from, to, yield);
     SetTimeAndPermissions(source, copy);
-    if (::fsync(copy.handle()) != 0)
-        Raise(errno, to);
+    if (const int error = Flush(copy.handle(), yield); error != 0)
+        Raise(error, to);
     const int error = RenameFile(copy.fileName(), to, target);
     if (error != 0)
         Raise(error, to);
