@@ -88,6 +88,9 @@ void frmDBCompress::ConnectHandlers()
     using controls::ConnectHandler;
     using Dialog = frmDBCompress;
     ConnectHandler(m_ui->Combo1, &controls::ComboBox::Click, this, &Dialog::Combo1_Click);
+    connect(m_ui->Combo1, &controls::ComboBox::KeyPress, this, [this](int character, bool *swallow) {
+        controls::RunHandler([=, this] { Combo1_KeyPress(character, swallow); });
+    });
     ConnectHandler(m_ui->Check1, &QCheckBox::toggled, this, &Dialog::Check1_Click);
     ConnectHandler(m_ui->Command1, &QPushButton::clicked, this, &Dialog::Command1_Click);
     ConnectHandler(m_ui->Command2, &QPushButton::clicked, this, &Dialog::Command2_Click);
@@ -184,6 +187,13 @@ void frmDBCompress::Combo1_Click()
     ShowBackupEnabled(true);
 }
 
+void frmDBCompress::Combo1_KeyPress(int character, bool *swallow)
+{
+    // Letters would choose an entry by its beginning; the blank opens the list, what lies below is the
+    // form's.
+    *swallow = character > u' ';
+}
+
 bool frmDBCompress::IsWithoutBackup() const { return m_ui->Check1->isChecked(); }
 
 void frmDBCompress::Check1_Click() { ShowBackupEnabled(!IsWithoutBackup()); }
@@ -216,6 +226,7 @@ void frmDBCompress::Command2_Click()
     } catch (...) {
         m_isOptimizing = 0;
         SetDialogLayout(NormalLayout);
+        m_ui->Command2->setFocus();
         throw;
     }
     host::SetMousePointer(host::PointerDefault);
@@ -225,6 +236,7 @@ void frmDBCompress::Command2_Click()
     if (!IsLoaded())
         return;
     SetDialogLayout(NormalLayout);
+    m_ui->Command3->setFocus();
     ShowModal();
 }
 

@@ -28,6 +28,7 @@ public:
     int IsOptimizing() const { return m_isOptimizing; }
 
     void Combo1_Click();
+    void Combo1_KeyPress(int character, bool *swallow);
     void Check1_Click();
     void Command1_Click();
     void Command2_Click();

@@ -19,6 +19,7 @@ const fails = (what, text, prepare) => {
     check([state("frmDBCompress.IsOptimizing"), pointer()], [0, 0], what + ": nothing is under way");
     check([visible("frmDBCompress"), visible("frmDBCompress.Command2"), visible("frmDBCompress.Label4")], [true, true, false],
           what + ": the normal layout");
+    check(focused(), "frmDBCompress.Command2", what + ": ready to be started again");
     check([bounds("frmDBCompress").width, enabled("frmFind")], [7500, false], what + ": in its size");
     check(readBytes(dictionary), untouched, what + ": the database is untouched");
     check(exists(temporary), false, what + ": no temporary file stays");

@@ -54,6 +54,7 @@ check([report.title, report.text], ["最適化完了", "データベースの最
 check([report.icon, report.beep, report.buttons], [48, 64, ["OK"]], "icon, beep, button");
 check([visible("frmDBCompress"), visible("frmDBCompress.Command2"), visible("frmDBCompress.Label4")], [true, true, false],
       "the dialog stands as before");
+check(focused(), "frmDBCompress.Command3", "ready to be closed");
 check([bounds("frmDBCompress").width, bounds("frmDBCompress").height], [normal.width, normal.height], "in its size");
 check([text("frmDBCompress.Label4"), text("frmDBCompress.Label5"), state("frmDBCompress.IsOptimizing")], ["", "", 0], "at rest");
 check([pointer(), enabled("frmFind")], [0, false], "the pointer is the default one, the main window waits");

@@ -1,5 +1,7 @@
+#include "platform/data/file_flush.h"
 #include "platform/data/jro.h"
 #include "platform/data/session.h"
+#include "platform/data/structure_check.h"
 #include "unit/data/dictionary_fixture.h"
 
 #include <QFile>
@@ -214,6 +216,27 @@ TEST_F(Compaction, ASourceThatAnotherProgramLocksIsWaitedForAndTold)
     EXPECT_EQ(status, 0);
     Compact();
     EXPECT_EQ(All(u"b.mdb"_s).size(), 1U);
+}
+
+TEST_F(Compaction, TheStructureCheckFindsDamage)
+{
+    CreateSparse();
+    EXPECT_TRUE(data::StructureCheck(Host()).Passed());
+    QFile file(Host());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek(16384 * 3));
+    file.write(QByteArray(16384, '\x5a'));
+    file.close();
+    EXPECT_FALSE(data::StructureCheck(Host()).Passed());
+    EXPECT_FALSE(data::StructureCheck(Host(u"none.mdb"_s)).Passed());
+}
+
+TEST_F(Compaction, AFlushTellsWhatItCannotReach)
+{
+    CreateWith({u"a"_s});
+    EXPECT_EQ(Raised([&] { data::FileFlush(Host()).Finish(); }), 0);
+    EXPECT_EQ(Raised([&] { data::FileFlush(Host(u"none.mdb"_s)).Finish(); }),
+              RuntimeError::CannotOpenDatabase);
 }
 
 TEST_F(Compaction, LetsEventsThroughAboutEvery50Milliseconds)
