@@ -98,8 +98,11 @@ void Program::PrepareApplication()
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     dialogs::SetBeforeBoxHook(ADODB::CommitGroups);
     ADODB::EngineHooks().progress = host::DoEvents;
-    ADODB::EngineHooks().busy = [](bool busy) {
-        host::SetMousePointer(busy ? host::PointerHourglass : host::PointerDefault);
+    // Who works longer than the engine keeps his own pointer.
+    ADODB::EngineHooks().busy = [before = host::MousePointer()](bool busy) mutable {
+        if (busy)
+            before = host::MousePointer();
+        host::SetMousePointer(busy ? static_cast<int>(host::PointerHourglass) : before);
     };
 }
 

@@ -5,7 +5,10 @@
 #include "conversion/frmDataConv.h"
 #include "core/pure/app_files.h"
 #include "core/shared_state.h"
+#include "management/frmDBCompress.h"
+#include "management/frmDicList.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/files/file_operations.h"
 #include "platform/host/host.h"
 #include "presentation/frmAbout.h"
 #include "presentation/frmColorSelect.h"
@@ -27,7 +30,24 @@ bool Refused(const std::optional<Notice> &notice)
     return notice.has_value();
 }
 
+/// The same, with a beep, for a dialog that works on the dictionary in use.
+bool IsDictionaryMissing(DictionaryDialog dialog)
+{
+    const auto notice = DictionaryNotice(dialog, Shared.CurrentDicPath, files::Exists(Shared.CurrentDicPath));
+    if (notice)
+        host::MessageBeep(host::BeepExclamation);
+    return Refused(notice);
+}
+
 } // namespace
+
+void frmFind::mnuDicAdd_Click() { (new frmDicList)->ShowModal(); }
+
+void frmFind::mnuCompress_Click()
+{
+    if (!IsDictionaryMissing(DictionaryDialog::Compaction))
+        (new frmDBCompress)->ShowModal();
+}
 
 void frmFind::mnuCnv_Click() { (new frmDataConv)->ShowAbove(*this); }
 

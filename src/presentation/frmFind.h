@@ -142,6 +142,8 @@ public:
     void mnuWildCard_Click();
     void mnuTxtInMeaning_Click();
     void mnuTxtInExample_Click();
+    void mnuDicAdd_Click();
+    void mnuCompress_Click();
     void mnuHideListBox_Click();
     void mnuExit_Click();
     void mnuCopy_Click();

@@ -27,9 +27,17 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate",      u"mnuOpen",         u"mnuCompress",          u"mnuGoBack",      u"mnuGoForward",
-    u"mnuGoHome",          u"mnuCancel",       u"mnuReflesh",           u"mnuSrchWebSite", u"mnuDicAdd",
-    u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuFileCreate",
+    u"mnuOpen",
+    u"mnuGoBack",
+    u"mnuGoForward",
+    u"mnuGoHome",
+    u"mnuCancel",
+    u"mnuReflesh",
+    u"mnuSrchWebSite",
+    u"mnuSpeakingSetting",
+    u"mnuSpeakKeyWord",
+    u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -233,6 +241,8 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuWildCard"), &frmFind::mnuWildCard_Click, 5);
     Command(QStringLiteral("mnuTxtInMeaning"), &frmFind::mnuTxtInMeaning_Click, 6);
     Command(QStringLiteral("mnuTxtInExample"), &frmFind::mnuTxtInExample_Click, 7);
+    Command(QStringLiteral("mnuDicAdd"), &frmFind::mnuDicAdd_Click);
+    Command(QStringLiteral("mnuCompress"), &frmFind::mnuCompress_Click);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);

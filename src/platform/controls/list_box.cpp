@@ -356,9 +356,12 @@ void ListBox::mouseReleaseEvent(QMouseEvent *) { m_pressedRow = -1; }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton && TakesUserInput() &&
-        indexAt(event->position().toPoint()).isValid())
+    if (event->button() != Qt::LeftButton || !TakesUserInput())
+        return;
+    if (indexAt(event->position().toPoint()).isValid())
         Q_EMIT DblClick();
+    else
+        Q_EMIT DblClickBesideRows();
 }
 
 void ListBox::keyPressEvent(QKeyEvent *event)

@@ -5,6 +5,7 @@
 #include "platform/host/host.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
@@ -360,9 +361,15 @@ TEST_F(FormTest, EnterAndEscPressTheirButtons)
     EXPECT_EQ(oks, 1);
     input::Key(*edit, Qt::Key_Escape, QStringLiteral("\x1b"));
     EXPECT_EQ(cancels, 1);
+    auto *check = new QCheckBox(form);
+    check->show();
+    check->setFocus();
+    input::Key(*check, Qt::Key_Return, QStringLiteral("\r"));
+    EXPECT_EQ(oks, 2);
+    EXPECT_FALSE(check->isChecked());
     ok->setEnabled(false);
     input::Key(*edit, Qt::Key_Return, QStringLiteral("\r"));
-    EXPECT_EQ(oks, 1);
+    EXPECT_EQ(oks, 2);
 }
 
 TEST_F(FormTest, HandlersAreCountedAndFailuresStop)

@@ -108,6 +108,11 @@ TEST_F(ListBoxTest, MouseClicksAlsoTheSelectedRow)
     EXPECT_EQ(list.ListIndex(), 2);
     input::Mouse(*list.viewport(), QEvent::MouseButtonDblClick, Middle(2));
     EXPECT_EQ(doubleClicks, 1);
+    int beside = 0;
+    QObject::connect(&list, &ListBox::DblClickBesideRows, &list, [&beside] { ++beside; });
+    input::Mouse(*list.viewport(), QEvent::MouseButtonDblClick, {5, 180});
+    EXPECT_EQ(beside, 1);
+    EXPECT_EQ(doubleClicks, 1);
 }
 
 TEST_F(ListBoxTest, KeysMoveTheSelection)
