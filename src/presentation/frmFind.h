@@ -141,6 +141,9 @@ public:
     void mnuTxtInMeaning_Click();
     void mnuTxtInExample_Click();
     void mnuHideListBox_Click();
+    void mnuOpen_Click();
+    /// Opens the record editor as `EditOpenMode` says.
+    void ShowRecordEditor();
     void mnuExit_Click();
     void mnuCopy_Click();
     void mnuSelectAll_Click();
@@ -168,6 +171,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
+    /// A form that took the input away is to be closed first.
+    bool AcceptsFrameClose() const override { return TakesInput(); }
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -5,7 +5,7 @@ start();
 const entries = [
     ["mnufile", "ファイル(&F)", true, false],
     ["mnuFileCreate", "辞書データベースの新規作成(&N)...", false, false],
-    ["mnuOpen", "辞書データベースを開く(&O)...", false, false],
+    ["mnuOpen", "辞書データベースを開く(&O)...", true, false],
     ["mnuCnv", "データ変換(&R)...", false, false],
     ["mnuCompress", "辞書データベースの最適化(&C)...", false, false],
     ["mnuPageSettings", "ページ設定(&U)...", true, false],
