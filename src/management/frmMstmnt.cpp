@@ -12,10 +12,11 @@
 
 using controls::RunHandler;
 
-frmMstmnt::frmMstmnt(QWidget *owner)
-    : Form(QStringLiteral("frmMstmnt"), owner), ui(std::make_unique<Ui::frmMstmnt>())
+frmMstmnt::frmMstmnt(QWidget &owner)
+    : Form(QStringLiteral("frmMstmnt")), ui(std::make_unique<Ui::frmMstmnt>())
 {
     ui->setupUi(this);
+    SetOwner(owner);
     ConnectHandlers();
 }
 

@@ -23,7 +23,7 @@ class frmMstmnt : public controls::Form
     Q_OBJECT
 public:
     /// It stays above its owner.
-    explicit frmMstmnt(QWidget *owner);
+    explicit frmMstmnt(QWidget &owner);
     ~frmMstmnt() override;
 
     /// 0 editing a record, 1 adding one.

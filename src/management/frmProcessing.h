@@ -9,6 +9,8 @@ class frmProcessing : public controls::Form
 public:
     /// Stands in the middle of its owner.
     explicit frmProcessing(QWidget &owner);
+    /// Shows it, and returns when it can be seen.
+    void ShowPainted();
 
 protected:
     bool AcceptsFrameClose() const override { return false; }

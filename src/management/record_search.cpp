@@ -2,7 +2,6 @@
 #include "management/frmMstmnt.h"
 #include "management/frmProcessing.h"
 #include "management/questions.h"
-#include "platform/host/host.h"
 #include "platform/text/trim.h"
 #include "search/pure/like_text.h"
 #include "search/view.h"
@@ -50,8 +49,7 @@ void frmMstmnt::Command10_Click()
             SetTakesInput(true);
     });
     SetTakesInput(false);
-    processing->ShowForm();
-    host::DoEvents();
+    processing->ShowPainted();
     // The form may have been closed in that turn.
     if (IsLoaded() && !FindRecord(EscapeForLike(text::Trim(wanted))))
         Tell(QStringLiteral("指定のレコードは見つかりませんでした。"), QStringLiteral("該当データなし"));

@@ -14,4 +14,4 @@ void frmFind::mnuOpen_Click()
     ShowRecordEditor();
 }
 
-void frmFind::ShowRecordEditor() { (new frmMstmnt(this))->ShowForm(); }
+void frmFind::ShowRecordEditor() { (new frmMstmnt(*this))->ShowForm(); }

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWindow>
 
 namespace controls
 {
@@ -71,6 +72,8 @@ void Form::ShowForm()
     Load();
     if (!self || !m_loaded)
         return;
+    if (m_owner && !isVisible())
+        StandAboveOwner();
     show();
     raise();
     activateWindow();
@@ -151,6 +154,21 @@ void Form::Centre()
     const QRect room = screen()->availableGeometry();
     const QRect frame = frameGeometry();
     move(room.left() + (room.width() - frame.width()) / 2, room.top() + (room.height() - frame.height()) / 2);
+}
+
+void Form::SetOwner(QWidget &owner) { m_owner = &owner; }
+
+void Form::StandAboveOwner()
+{
+    // Between the native windows, for a child widget would be destroyed with its parent.
+    winId();
+    windowHandle()->setTransientParent(m_owner->window()->windowHandle());
+    const QRect room = m_owner->screen()->availableGeometry();
+    QRect place(QPoint(), size());
+    place.moveCenter(m_owner->window()->frameGeometry().center());
+    place.moveLeft(qMax(room.left(), qMin(place.left(), room.right() + 1 - place.width())));
+    place.moveTop(qMax(room.top(), qMin(place.top(), room.bottom() + 1 - place.height())));
+    move(place.topLeft());
 }
 
 void Form::SetKeyButtons(QAbstractButton *enter, QAbstractButton *escape)

@@ -39,6 +39,9 @@ public:
 
     /// Puts the form in the middle of its screen.
     void Centre();
+    /// The window that this one stays above; it comes up over the middle of it. To be told before the
+    /// form is shown. The two do not share their lives.
+    void SetOwner(QWidget &owner);
 
     /// The buttons that Enter and Esc press, where the control that has the focus leaves the key
     /// alone. A button that has the focus takes Enter itself. Null: none.
@@ -71,11 +74,13 @@ private:
     bool IsUnloadRefused(UnloadReason reason);
     void UndoLoad();
     void Leave();
+    void StandAboveOwner();
 
     bool m_loaded = false;
     bool m_unloading = false;
     bool m_takesInput = true;
     QList<QPointer<Form>> m_disabledWhileLoading;
+    QPointer<QWidget> m_owner;
     QPointer<QAbstractButton> m_enterButton;
     QPointer<QAbstractButton> m_escapeButton;
 };
