@@ -7,6 +7,7 @@
 #include "core/shared_state.h"
 #include "management/frmDBCompress.h"
 #include "management/frmDicList.h"
+#include "management/frmMstmnt.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/files/file_operations.h"
 #include "platform/host/host.h"
@@ -40,6 +41,16 @@ bool IsDictionaryMissing(DictionaryDialog dialog)
 }
 
 } // namespace
+
+void frmFind::mnuOpen_Click()
+{
+    if (IsDictionaryMissing(DictionaryDialog::Editor))
+        return;
+    Shared.EditOpenMode = 0;
+    ShowRecordEditor();
+}
+
+void frmFind::ShowRecordEditor() { (new frmMstmnt)->ShowAbove(*this); }
 
 void frmFind::mnuDicAdd_Click() { (new frmDicList)->ShowModal(); }
 

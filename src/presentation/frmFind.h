@@ -145,6 +145,9 @@ public:
     void mnuDicAdd_Click();
     void mnuCompress_Click();
     void mnuHideListBox_Click();
+    void mnuOpen_Click();
+    /// Opens the record editor as `EditOpenMode` says.
+    void ShowRecordEditor();
     void mnuExit_Click();
     void mnuCopy_Click();
     void mnuSelectAll_Click();

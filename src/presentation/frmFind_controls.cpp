@@ -27,17 +27,8 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate",
-    u"mnuOpen",
-    u"mnuGoBack",
-    u"mnuGoForward",
-    u"mnuGoHome",
-    u"mnuCancel",
-    u"mnuReflesh",
-    u"mnuSrchWebSite",
-    u"mnuSpeakingSetting",
-    u"mnuSpeakKeyWord",
-    u"mnuSpeakSelectedArea",
+    u"mnuFileCreate", u"mnuGoBack",      u"mnuGoForward",       u"mnuGoHome",       u"mnuCancel",
+    u"mnuReflesh",    u"mnuSrchWebSite", u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -244,6 +235,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuDicAdd"), &frmFind::mnuDicAdd_Click);
     Command(QStringLiteral("mnuCompress"), &frmFind::mnuCompress_Click);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
+    Command(QStringLiteral("mnuOpen"), &frmFind::mnuOpen_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
     Command(QStringLiteral("mnuSelectAll"), &frmFind::mnuSelectAll_Click);

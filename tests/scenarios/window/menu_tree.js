@@ -9,7 +9,7 @@ start();
 const entries = [
     ["mnufile", "ファイル(&F)", true, false],
     ["mnuFileCreate", "辞書データベースの新規作成(&N)...", false, false],
-    ["mnuOpen", "辞書データベースを開く(&O)...", false, false],
+    ["mnuOpen", "辞書データベースを開く(&O)...", true, false],
     ["mnuCnv", "データ変換(&R)...", true, false],
     ["mnuCompress", "辞書データベースの最適化(&C)...", true, false],
     ["mnuPageSettings", "ページ設定(&U)...", true, false],

@@ -347,6 +347,34 @@ TEST_F(FormTest, BlockingOneFormLeavesItsOwnChildFormsAlone)
     blocked.form->SetTakesInput(true);
 }
 
+TEST_F(FormTest, ComesUpOverTheMiddleOfItsOwnerAndStaysAboveIt)
+{
+    auto *owner = new TestForm(QStringLiteral("frmOwner"));
+    owner->setGeometry(100, 80, 400, 300);
+    owner->ShowForm();
+    const QPointer<TestForm> form(new TestForm(QStringLiteral("frmA")));
+    form->resize(200, 100);
+    form->SetOwner(*owner);
+    form->ShowForm();
+    EXPECT_EQ(form->windowHandle()->transientParent(), owner->windowHandle());
+    EXPECT_EQ(form->parentWidget(), nullptr);
+    EXPECT_LE((form->geometry().center() - owner->frameGeometry().center()).manhattanLength(), 2);
+
+    // No part of it beyond the screen, nor moved when it is shown again.
+    form->move(3, 4);
+    form->ShowForm();
+    EXPECT_EQ(form->pos(), QPoint(3, 4));
+    const QRect room = owner->screen()->availableGeometry();
+    owner->move(room.bottomRight() - QPoint(50, 50));
+    auto *other = new TestForm(QStringLiteral("frmB"));
+    other->resize(200, 100);
+    other->SetOwner(*owner);
+    other->ShowForm();
+    EXPECT_TRUE(room.contains(other->geometry()));
+    delete owner;
+    EXPECT_TRUE(form) << "the two do not share their lives";
+}
+
 TEST_F(FormTest, EnterAndEscPressTheirButtons)
 {
     auto *form = new TestForm(QStringLiteral("frmKeys"));
