@@ -1,6 +1,9 @@
+#include "conversion/frmCreateDB.h"
 #include "conversion/frmDataConv.h"
 #include "presentation/frmFind.h"
 
-// The commands that open dialogs. No other file of the main window includes them.
+// The menu entries that open dialogs.
+
+void frmFind::mnuFileCreate_Click() { (new frmCreateDB)->ShowModal(); }
 
 void frmFind::mnuCnv_Click() { (new frmDataConv)->ShowForm(); }

@@ -148,6 +148,7 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
+    void mnuFileCreate_Click();
     void mnuCnv_Click();
     void Picture12_MouseDown();
     void RaisePicture(int number);

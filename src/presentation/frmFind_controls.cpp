@@ -25,7 +25,7 @@ constexpr std::array kServedEntries{
     u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",    u"mnuCopy",
     u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
     u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
-    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuCnv",
+    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuCnv",     u"mnuFileCreate",
 };
 
 struct Accelerator {
@@ -211,6 +211,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuTxtInMeaning"), &frmFind::mnuTxtInMeaning_Click, 6);
     Command(QStringLiteral("mnuTxtInExample"), &frmFind::mnuTxtInExample_Click, 7);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
+    Command(QStringLiteral("mnuFileCreate"), &frmFind::mnuFileCreate_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
     Command(QStringLiteral("mnuSelectAll"), &frmFind::mnuSelectAll_Click);
