@@ -2,6 +2,7 @@
 #include "aids/frmHistory.h"
 #include "aids/frmListSettings.h"
 #include "aids/frmSearch.h"
+#include "conversion/frmCreateDB.h"
 #include "conversion/frmDataConv.h"
 #include "core/pure/app_files.h"
 #include "core/shared_state.h"
@@ -41,6 +42,8 @@ bool IsDictionaryMissing(DictionaryDialog dialog)
 }
 
 } // namespace
+
+void frmFind::mnuFileCreate_Click() { (new frmCreateDB)->ShowModal(); }
 
 void frmFind::mnuOpen_Click()
 {

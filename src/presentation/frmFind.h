@@ -159,6 +159,7 @@ public:
     void mnuAddSearchCondition_Click();
     void mnuHistory_Click();
     void mnuColorSel_Click();
+    void mnuFileCreate_Click();
     void mnuCnv_Click();
     void mnuListSettings_Click();
     /// Opens the menu of reading aloud below its picture.

@@ -27,8 +27,9 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuFileCreate", u"mnuGoBack",      u"mnuGoForward",       u"mnuGoHome",       u"mnuCancel",
-    u"mnuReflesh",    u"mnuSrchWebSite", u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuGoBack",          u"mnuGoForward",    u"mnuGoHome",
+    u"mnuCancel",          u"mnuReflesh",      u"mnuSrchWebSite",
+    u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -236,6 +237,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuCompress"), &frmFind::mnuCompress_Click);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
     Command(QStringLiteral("mnuOpen"), &frmFind::mnuOpen_Click);
+    Command(QStringLiteral("mnuFileCreate"), &frmFind::mnuFileCreate_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
     Command(QStringLiteral("mnuSelectAll"), &frmFind::mnuSelectAll_Click);

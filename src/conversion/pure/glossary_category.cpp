@@ -86,19 +86,30 @@ constexpr Category kCategories[] = {
     {u"DOC", u"Documentation"},
 };
 
-QHash<QStringView, QStringView> NamesByCode()
+constexpr qsizetype kCodeLength = 3;
+
+/// A code of three characters in capitals, as a number.
+quint64 KeyOf(QStringView code)
 {
-    QHash<QStringView, QStringView> names;
+    quint64 key = 0;
+    for (const QChar character : code)
+        key = key << 16 | character.toUpper().unicode();
+    return key;
+}
+
+QHash<quint64, QString> NamesByKey()
+{
+    QHash<quint64, QString> names;
     for (const Category &category : kCategories)
-        names.insert(category.code, category.name);
+        names.insert(KeyOf(category.code), category.name.toString());
     return names;
 }
 
 } // namespace
 
-QString GlossaryCategoryName(const QString &code)
+QString GlossaryCategoryName(QStringView code)
 {
-    static const QHash<QStringView, QStringView> names = NamesByCode();
-    const QString capitals = code.toUpper();
-    return names.value(capitals, u"Unknown").toString();
+    static const QHash<quint64, QString> names = NamesByKey();
+    static const QString unknown = QStringLiteral("Unknown");
+    return code.size() == kCodeLength ? names.value(KeyOf(code), unknown) : unknown;
 }

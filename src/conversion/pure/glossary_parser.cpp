@@ -91,7 +91,7 @@ private:
             m_os = kNotAvailable.toString();
             return {GlossaryCategoryName(text::Trim(rest)), m_os, kNotAvailable.toString()};
         }
-        Context context{GlossaryCategoryName(category->toString()), {}, kNotAvailable.toString()};
+        Context context{GlossaryCategoryName(*category), {}, kNotAvailable.toString()};
         // A system without a comma behind it is lost: that of the line before stands.
         if (const auto os = TakeToComma(rest)) {
             m_os = os->toString();
@@ -107,8 +107,13 @@ private:
         return field.startsWith(kQuote) ? field.sliced(1) : field;
     }
 
+    /// Appends with one allocation.
     static void Append(QString &text, std::initializer_list<QStringView> pieces)
     {
+        qsizetype size = text.size();
+        for (const QStringView piece : pieces)
+            size += piece.size();
+        text.reserve(size);
         for (const QStringView piece : pieces)
             text += piece;
     }

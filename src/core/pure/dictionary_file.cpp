@@ -6,6 +6,7 @@
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 #include "platform/files/file_operations.h"
+#include "platform/text/trim.h"
 
 #include <QScopeGuard>
 
@@ -72,12 +73,13 @@ void TakeAway(const QString &path) noexcept
 
 void CreateDictionaryFile(const QString &path)
 {
-    data::RequireNothingAt(files::HostPath(path));
+    const QString trimmed = text::Trim(path);
+    data::RequireNothingAt(files::HostPath(trimmed));
     // Made under another name: whatever ends the process meanwhile, nobody finds a dictionary in part.
-    const QString unfinished = path + QStringLiteral(".unfinished");
+    const QString unfinished = trimmed + QStringLiteral(".unfinished");
     TakeAway(unfinished);
     auto takeAway = qScopeGuard([&unfinished] { TakeAway(unfinished); });
     MakeDictionary(unfinished);
-    files::Rename(unfinished, path);
+    files::Rename(unfinished, trimmed);
     takeAway.dismiss();
 }

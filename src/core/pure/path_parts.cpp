@@ -6,8 +6,6 @@
 namespace
 {
 
-constexpr int kNameAlone = 2;
-
 /// The last position, from 1, of a character in a text; 0 for none.
 qsizetype LastPositionOf(char16_t character, const QString &text)
 {
@@ -36,7 +34,7 @@ QString StemOfPath(const QString &path, int mode)
     if (period == 0)
         return {};
     const QString stem = trimmed.first(period - 1);
-    if (mode != kNameAlone)
+    if (mode != kStemAlone)
         return stem;
     const qsizetype backslash = LastPositionOf(u'\\', stem);
     return backslash == 0 ? QString() : stem.sliced(backslash);

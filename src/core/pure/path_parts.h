@@ -8,9 +8,12 @@
 /// The drive letter in front of ":\" (found as it stands); empty unless it is one letter alone.
 QString DriveOfPath(const QString &path);
 
-/// What stands before the last period of the trimmed path: with its folders for the mode 1, behind the
-/// last backslash for the mode 2. Empty without a period, and for the mode 2 without a backslash or
-/// where nothing stands behind it.
+/// The modes of StemOfPath.
+inline constexpr int kStemWithFolders = 1;
+inline constexpr int kStemAlone = 2;
+
+/// What stands before the last period of the trimmed path, or, alone, of that what stands behind the
+/// last backslash. Empty without a period; alone, without a backslash too, or with nothing behind it.
 QString StemOfPath(const QString &path, int mode);
 
 /// What stands behind the last period, not trimmed; empty without a period.

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/data/schema.h"
+
 #include <QStringView>
 
 /// What holds for a record of a dictionary wherever it is made.
 
 /// The most characters of the two short text columns.
-inline constexpr qsizetype kWordLength = 255;
-inline constexpr qsizetype kPronunciationLength = 64;
+inline constexpr qsizetype kWordLength = data::kWordSize;
+inline constexpr qsizetype kPronunciationLength = data::kPronunciationSize;
 /// The most characters that a record made from another source holds in the two long ones.
 inline constexpr qsizetype kDescriptionLength = 1024;
 inline constexpr qsizetype kExampleLength = 1024;

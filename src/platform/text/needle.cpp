@@ -14,29 +14,39 @@ namespace
 constexpr char32_t kPlaneSize = 0x10000;
 constexpr qsizetype kBlock = 16;
 
+using Units = std::array<char16_t, 4>;
+
+/// Whether one of four units stands in a block. Apart from its caller, for the compiler makes vectors of
+/// this loop only where it cannot unroll it into the other one first.
+[[gnu::noinline]] bool HoldsAny(const Units &wanted, const char16_t *block)
+{
+    const auto [first, second, third, fourth] = wanted;
+    quint16 found = 0;
+    for (qsizetype i = 0; i < kBlock; ++i) {
+        const char16_t unit = block[i];
+        found = static_cast<quint16>(found | -(quint16(unit == first) | quint16(unit == second) |
+                                               quint16(unit == third) | quint16(unit == fourth)));
+    }
+    return found != 0;
+}
+
 /// The first position at or behind `at` whose unit is one of four; the size where there is none.
-qsizetype NextOf(const std::array<char16_t, 4> &wanted, QStringView text, qsizetype at)
+qsizetype NextOf(const Units &wanted, QStringView text, qsizetype at)
 {
     const char16_t *const units = text.utf16();
     const qsizetype size = text.size();
-    const char16_t first = wanted[0];
-    const char16_t second = wanted[1];
-    const char16_t third = wanted[2];
-    const char16_t fourth = wanted[3];
-    const auto isWanted = [=](char16_t unit) {
-        return (unit == first) | (unit == second) | (unit == third) | (unit == fourth);
-    };
-    // Whole blocks without a branch: the compiler makes vectors of them.
-    for (; at + kBlock <= size; at += kBlock) {
-        unsigned found = 0;
-        for (qsizetype i = 0; i < kBlock; ++i)
-            found |= static_cast<unsigned>(isWanted(units[at + i]));
-        if (found != 0)
-            break;
+    while (at < size) {
+        // The last block may begin before `at`.
+        const qsizetype block = std::min(at, size - kBlock);
+        if (block >= 0 && !HoldsAny(wanted, units + block)) {
+            at = block + kBlock;
+            continue;
+        }
+        for (const qsizetype end = std::min(at + kBlock, size); at < end; ++at)
+            if (std::ranges::find(wanted, units[at]) != wanted.end())
+                return at;
     }
-    while (at < size && !isWanted(units[at]))
-        ++at;
-    return at;
+    return size;
 }
 
 /// Whether a folded code point begins at `at`, when reading begins at `first`.

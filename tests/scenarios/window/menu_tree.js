@@ -8,7 +8,7 @@ start();
 // [name, caption, enabled, checked]
 const entries = [
     ["mnufile", "ファイル(&F)", true, false],
-    ["mnuFileCreate", "辞書データベースの新規作成(&N)...", false, false],
+    ["mnuFileCreate", "辞書データベースの新規作成(&N)...", true, false],
     ["mnuOpen", "辞書データベースを開く(&O)...", true, false],
     ["mnuCnv", "データ変換(&R)...", true, false],
     ["mnuCompress", "辞書データベースの最適化(&C)...", true, false],

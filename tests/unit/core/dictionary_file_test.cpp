@@ -121,3 +121,11 @@ TEST_F(NewDictionary, FindsThePlaceBeforeAKey)
     m_table.Seek(u"zoo"_s, 0, ADODB::adSeekBeforeEQ);
     EXPECT_EQ(Row(), std::pair(u"cow"_s, 2)) << "behind the last row";
 }
+
+TEST(DictionaryPath, DoesNotCountItsBlanks)
+{
+    const QTemporaryDir folder;
+    const QString hostPath = folder.filePath(u"a b.mdb"_s);
+    CreateDictionaryFile(u" "_s + files::DrivePath(hostPath) + u" \u3000"_s);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"a b.mdb"_s));
+}

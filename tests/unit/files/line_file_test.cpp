@@ -163,6 +163,18 @@ TEST_F(LineFiles, ReaderFindsLineEndsAcrossItsBuffer)
     }
 }
 
+TEST_F(LineFiles, ReaderTakesAVeryLongLine)
+{
+    // Many buffers long; read again from its beginning at each of them it would take minutes.
+    constexpr qsizetype length = qsizetype{64} << 20;
+    const QByteArray line(length, 'x');
+    Put(u"a.txt"_s, line + "\r\n\x8C\xA9\n");
+    LineReader reader(Drive(u"a.txt"_s));
+    EXPECT_EQ(reader.ReadLine().size(), length);
+    EXPECT_EQ(reader.ReadLine(), u"見"_s);
+    EXPECT_TRUE(reader.AtEnd());
+}
+
 TEST_F(LineFiles, ReaderHonoursByteOrderMarks)
 {
     const QStringList expected{u"見出し é"_s, u"次\u0A0D\u0D0A"_s};
