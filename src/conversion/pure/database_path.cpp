@@ -23,14 +23,12 @@ bool GoesOn(PathCheck check, bool agreed, QString &path)
 {
     if (check == PathCheck::NoExtension) {
         if (agreed)
-            path += path.endsWith(u'.') ? QStringLiteral("mdb") : QStringLiteral(".mdb");
+            path = WithExtensionAdded(path);
         return true;
     }
     if (check == PathCheck::WrongExtension && agreed) {
-        path = StemOfPath(path, kStemWithFolders) + QStringLiteral(".MDB");
+        path = WithExtensionReplaced(path);
         return true;
     }
     return false;
 }
-
-QString UpperExtOfPath(const QString &path) { return ExtOfPath(path).toUpper(); }

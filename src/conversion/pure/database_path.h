@@ -17,6 +17,3 @@ bool Finds(PathCheck check, const QString &path, const std::function<bool(const 
 /// Whether the checks go on after the user agreed (はい, OK) to what a check asks, or not; may rewrite
 /// the path. What is only told ends them.
 bool GoesOn(PathCheck check, bool agreed, QString &path);
-
-/// The extension of a path in capitals.
-QString UpperExtOfPath(const QString &path);

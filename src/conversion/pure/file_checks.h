@@ -39,6 +39,3 @@ bool Finds(FileCheck check, const ConvFiles &files, const std::function<bool(con
 /// Whether the checks go on after the user agreed to what a check asks (はい, OK) or not; may rewrite
 /// the target.
 bool GoesOn(FileCheck check, bool agreed, ConvFiles &files);
-
-/// The extension of a path in capitals.
-QString UpperExtOfPath(const QString &path);

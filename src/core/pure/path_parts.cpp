@@ -45,3 +45,15 @@ QString ExtOfPath(const QString &path)
     const qsizetype period = LastPositionOf(u'.', path);
     return period == 0 ? QString() : path.sliced(period);
 }
+
+QString UpperExtOfPath(const QString &path) { return ExtOfPath(path).toUpper(); }
+
+QString WithExtensionAdded(const QString &path)
+{
+    return path + (path.endsWith(u'.') ? QStringLiteral("mdb") : QStringLiteral(".mdb"));
+}
+
+QString WithExtensionReplaced(const QString &path)
+{
+    return StemOfPath(path, kStemWithFolders) + QStringLiteral(".MDB");
+}

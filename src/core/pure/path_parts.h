@@ -18,3 +18,10 @@ QString StemOfPath(const QString &path, int mode);
 
 /// What stands behind the last period, not trimmed; empty without a period.
 QString ExtOfPath(const QString &path);
+/// The same in capitals.
+QString UpperExtOfPath(const QString &path);
+
+/// The path with "mdb" behind it, and a period between them unless it ends with one.
+QString WithExtensionAdded(const QString &path);
+/// The path with ".MDB" in the place of what its last period begins.
+QString WithExtensionReplaced(const QString &path);

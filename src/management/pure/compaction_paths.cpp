@@ -62,7 +62,7 @@ std::optional<CompactionMessage> FindBackupPathFault(const QString &backupPath)
             QStringLiteral("バックアップファイルのパス中にドライブ名が見つかりません。(例：「C:\\」) \r\n\r\n"
                            "確認後、ドライブならびにパスを正しく指定してください。"),
             QStringLiteral("ドライブ名なし"));
-    if (text::Trim(StemOfPath(backupPath, 2)).isEmpty())
+    if (text::Trim(StemOfPath(backupPath, kStemAlone)).isEmpty())
         return Warning(QStringLiteral("バックアップファイル名が拡張子のみです！\r\n\r\n"
                                       "ファイル名を正しく指定してください。"),
                        QStringLiteral("バックアップファイル名なし"));
@@ -170,10 +170,3 @@ CompactionMessage NotWhileWorking()
                            "最適化処理が終了するまでしばらくお待ちください。"),
             QStringLiteral("キャンセル不可"), kOK | kExclamation, 0};
 }
-
-QString WithExtensionAdded(const QString &path)
-{
-    return path + (path.endsWith(u'.') ? QStringLiteral("mdb") : QStringLiteral(".mdb"));
-}
-
-QString WithExtensionReplaced(const QString &path) { return StemOfPath(path, 1) + QStringLiteral(".MDB"); }

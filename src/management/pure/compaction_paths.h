@@ -44,8 +44,3 @@ CompactionMessage TooLittleSpace(qint64 needed, qint64 available);
 CompactionMessage CompactionDone(qint64 oldLength, qint64 newLength);
 /// The window frame was pressed while the work goes on; no beep.
 CompactionMessage NotWhileWorking();
-
-/// The path with the usual extension behind it: a period too unless it ends with one.
-QString WithExtensionAdded(const QString &path);
-/// The path with the usual extension in the place of its own.
-QString WithExtensionReplaced(const QString &path);

@@ -1,3 +1,4 @@
+#include "core/pure/path_parts.h"
 #include "management/pure/compaction_paths.h"
 
 #include "core/pure/catalogue_record.h"
