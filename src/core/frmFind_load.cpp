@@ -1,5 +1,6 @@
 #include "core/catalogue.h"
 #include "core/failure_handling.h"
+#include "core/font_rows.h"
 #include "core/pure/app_files.h"
 #include "core/pure/dictionary_file.h"
 #include "core/shared_state.h"
@@ -10,71 +11,20 @@
 #include "platform/files/line_file.h"
 #include "platform/host/host.h"
 #include "presentation/frmFind.h"
-#include "presentation/pure/entry_page.h"
+#include "presentation/page_file.h"
 #include "presentation/target_caption.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QScreen>
-#include <QScrollBar>
 #include <cmath>
 
 namespace
 {
 
-QString FontFile() { return QStringLiteral("FontDefi.dat"); }
 QString ListFile() { return QStringLiteral("ListDefi.dat"); }
 QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
-QString StyleFile() { return QStringLiteral("sscDefi.dat"); }
 QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
 QString HelpFile() { return AppFilePath(QStringLiteral("Help.HLP")); }
-
-void TakeFontRow(int slot, const FontRow &row)
-{
-    Shared.FontNames[slot] = row.name;
-    Shared.FontSizes[slot] = row.size;
-    Shared.FontColors[slot] = row.color;
-    Shared.FontBolds[slot] = row.bold;
-    Shared.FontItalics[slot] = row.italic;
-    Shared.FontStrikes[slot] = row.strikeout;
-    Shared.FontUnderlines[slot] = row.underline;
-}
-
-FontRow RowOfSlot(int slot)
-{
-    return {Shared.FontNames[slot],     Shared.FontSizes[slot],   Shared.FontColors[slot],
-            Shared.FontBolds[slot],     Shared.FontItalics[slot], Shared.FontStrikes[slot],
-            Shared.FontUnderlines[slot]};
-}
-
-void MakeFontSlots()
-{
-    Shared.FontNames.resize(kFontSlots);
-    Shared.FontSizes.resize(kFontSlots);
-    Shared.FontColors.resize(kFontSlots);
-    for (QList<std::int16_t> *flags :
-         {&Shared.FontBolds, &Shared.FontItalics, &Shared.FontStrikes, &Shared.FontUnderlines})
-        flags->resize(kFontSlots);
-}
-
-void ApplyFont(QWidget *control, int slot, int points)
-{
-    const FontRow row = RowOfSlot(slot);
-    control->setFont(controls::MakeFont(row.name, points, row.bold != 0, row.italic != 0, row.strikeout != 0,
-                                        row.underline != 0));
-    QPalette palette = control->palette();
-    const QColor color = controls::MakeColor(row.color);
-    palette.setColor(QPalette::Text, color);
-    palette.setColor(QPalette::WindowText, color);
-    palette.setColor(QPalette::ButtonText, color);
-    control->setPalette(palette);
-    // The colour is that of the text, not of a list's arrows. Set anew, or the bars would inherit it.
-    QPalette desktop = QApplication::palette();
-    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        desktop.setColor(role, desktop.color(role));
-    for (QScrollBar *bar : control->findChildren<QScrollBar *>())
-        bar->setPalette(desktop);
-}
 
 void MoveTo(QWidget *control, int left)
 {
@@ -89,7 +39,7 @@ void frmFind::SetDefaultFonts()
 {
     MakeFontSlots();
     for (int slot = 0; slot < kFontSlots; ++slot)
-        TakeFontRow(slot, DefaultFontRow(slot));
+        SetFontRow(slot, DefaultFontRow(slot));
 }
 
 void frmFind::ReadFontFile(const QString &name)
@@ -100,14 +50,14 @@ void frmFind::ReadFontFile(const QString &name)
         rows[static_cast<std::size_t>(slot)] = DecodeFontRow(file.Read(slot + 1));
     MakeFontSlots();
     for (int slot = 0; slot < kFontSlots; ++slot)
-        TakeFontRow(slot, rows[static_cast<std::size_t>(slot)]);
+        SetFontRow(slot, rows[static_cast<std::size_t>(slot)]);
 }
 
 void frmFind::WriteFontFile(const QString &name)
 {
     QByteArray content;
     for (int slot = 0; slot < kFontSlots; ++slot)
-        content += EncodeFontRow(RowOfSlot(slot));
+        content += EncodeFontRow(FontRowOfSlot(slot));
     files::Replace(AppFilePath(name), content);
 }
 
@@ -115,11 +65,11 @@ void frmFind::LoadFonts()
 {
     // Before anything can fail, so that every slot has a font.
     SetDefaultFonts();
-    if (files::Exists(AppFilePath(FontFile()))) {
-        ReadFontFile(FontFile());
+    if (files::Exists(AppFilePath(FontFileName()))) {
+        ReadFontFile(FontFileName());
         return;
     }
-    WriteFontFile(FontFile());
+    WriteFontFile(FontFileName());
     CreateHTMLHeader();
 }
 
@@ -175,10 +125,10 @@ void frmFind::ApplyFonts()
     if (Shared.FontNames.size() < kFontSlots)
         return;
     constexpr int labelPoints = 9;
-    ApplyFont(Combo1, FontCombo, Shared.FontSizes[FontCombo]);
-    ApplyFont(txtFind, FontEntry, Shared.FontSizes[FontEntry]);
-    ApplyFont(Label1, FontEntry, labelPoints);
-    ApplyFont(List1, FontList, Shared.FontSizes[FontList]);
+    ShowFont(Combo1, FontRowOfSlot(FontCombo), Shared.FontSizes[FontCombo]);
+    ShowFont(txtFind, FontRowOfSlot(FontEntry), Shared.FontSizes[FontEntry]);
+    ShowFont(Label1, FontRowOfSlot(FontEntry), labelPoints);
+    ShowFont(List1, FontRowOfSlot(FontList), Shared.FontSizes[FontList]);
 }
 
 void frmFind::ApplySearchTarget()
@@ -235,7 +185,7 @@ void frmFind::PrepareEntryPaging()
 
 void frmFind::LoadPageHeader()
 {
-    files::LineReader reader(AppFilePath(StyleFile()));
+    files::LineReader reader(StylePath());
     QStringList lines;
     while (!reader.AtEnd())
         lines.append(reader.ReadLine());
@@ -249,7 +199,7 @@ void frmFind::Form_Load()
     ListClickActive = 0;
     GuardStep([this] { LoadFonts(); });
     GuardStep([this] {
-        if (!files::Exists(AppFilePath(StyleFile())))
+        if (!files::Exists(StylePath()))
             CreateHTMLHeader();
     });
     GuardStep([this] { LoadListSettings(); });

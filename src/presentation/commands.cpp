@@ -6,6 +6,8 @@
 #include "presentation/frmFind.h"
 #include "search/pure/entry_text.h"
 
+#include <QMenu>
+
 void frmFind::mnuExit_Click() { Unload(); }
 
 void frmFind::mnuHideListBox_Click() { ToggleHeadwordList(); }
@@ -30,6 +32,12 @@ void frmFind::ExecPrinting(int command)
 void frmFind::mnuPrint_Click() { ExecPrinting(browser::Print); }
 void frmFind::mnuPrintView_Click() { ExecPrinting(browser::PrintPreview); }
 void frmFind::mnuPageSettings_Click() { ExecPrinting(browser::PageSetup); }
+
+void frmFind::Picture10_MouseDown()
+{
+    const controls::Picture *picture = PictureOf(10);
+    m_popup->popup(picture->mapToGlobal(picture->rect().bottomLeft()));
+}
 
 void frmFind::Picture12_MouseDown()
 {

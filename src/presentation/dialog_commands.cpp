@@ -1,28 +1,29 @@
 #include "core/shared_state.h"
 #include "platform/dialogs/dialogs.h"
+#include "presentation/frmColorSelect.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
 
 #include <QAction>
-#include <QMenu>
 
 namespace
 {
 
-/// Shows what comes in the place of a dialog. True when there was something to show.
-bool Refused(const std::optional<Notice> &notice)
+/// Shows what comes in the place of a dialog, if anything does.
+void Tell(const std::optional<Notice> &notice)
 {
     if (notice)
         dialogs::MsgBox(notice->text, dialogs::Exclamation, notice->title);
-    return notice.has_value();
 }
 
 } // namespace
 
+void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
+
 void frmFind::mnuAddSearchCondition_Click()
 {
     ClearForModeChange();
-    Refused(CompositeNotice(Shared.SearchMode));
+    Tell(CompositeNotice(Shared.SearchMode));
 }
 
 void frmFind::OfferCompositeBuilder()
@@ -33,15 +34,9 @@ void frmFind::OfferCompositeBuilder()
     PictureOf(16)->setEnabled(answers);
 }
 
-void frmFind::Picture10_MouseDown()
-{
-    const controls::Picture *picture = PictureOf(10);
-    m_popup->popup(picture->mapToGlobal(picture->rect().bottomLeft()));
-}
-
 void frmFind::Picture28_MouseDown()
 {
     // No character is ever loaded, whatever the settings say.
     constexpr bool isSpeechAvailable = false;
-    Refused(SpeechNotice(isSpeechAvailable));
+    Tell(SpeechNotice(isSpeechAvailable));
 }

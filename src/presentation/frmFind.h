@@ -153,6 +153,7 @@ public:
     void mnuAddSearchCondition_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
+    void mnuColorSel_Click();
     void Picture12_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);

@@ -27,10 +27,11 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that have work to do; the others wait, disabled, for the dialogs they open.
 constexpr std::array kServedEntries{
-    u"mnuPageSettings", u"mnuPrint",          u"mnuPrintView",    u"mnuExit",    u"mnuCopy",
-    u"mnuSelectAll",    u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch", u"mnuSrchFromAll",
-    u"mnuSrchFromWord", u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch", u"mnuPostSrch",
-    u"mnuWildCard",     u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mCancel",    u"mnuAddSearchCondition",
+    u"mnuPageSettings",       u"mnuPrint",          u"mnuPrintView",    u"mnuExit",     u"mnuCopy",
+    u"mnuSelectAll",          u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch",  u"mnuSrchFromAll",
+    u"mnuSrchFromWord",       u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch",  u"mnuPostSrch",
+    u"mnuWildCard",           u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuColorSel", u"mCancel",
+    u"mnuAddSearchCondition",
 };
 
 struct Accelerator {
@@ -244,6 +245,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
     Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
     Command(QString(), &frmFind::Picture10_MouseDown, 10);
+    Command(QStringLiteral("mnuColorSel"), &frmFind::mnuColorSel_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);

@@ -9,6 +9,12 @@
 /// The drive path of the generated page.
 QString PagePath();
 
+/// The drive path of `sscDefi.dat`, the header that every page of entries begins with.
+QString StylePath();
+
+/// Puts the header with these fonts in the place of `sscDefi.dat`; raises what writing raises.
+void WritePageStyle(const PageFonts &fonts);
+
 /// Begins a page of entries: the file is emptied and gets the header's lines.
 void WritePageHeader();
 

@@ -10,6 +10,8 @@
 
 QString PagePath() { return AppFilePath(QStringLiteral("home.html")); }
 
+QString StylePath() { return AppFilePath(QStringLiteral("sscDefi.dat")); }
+
 void WritePageHeader()
 {
     files::LineWriter page(PagePath(), files::LineWriter::Mode::Output);
@@ -52,10 +54,12 @@ void frmFind::ShowBlankPage()
     NavigateHome();
 }
 
-void frmFind::CreateHTMLHeader()
+void WritePageStyle(const PageFonts &fonts)
 {
     QByteArray content;
-    for (const QString &line : DefaultPageHeader())
+    for (const QString &line : PageHeader(fonts))
         content += text::EncodePage(line) + "\r\n";
-    files::Replace(AppFilePath(QStringLiteral("sscDefi.dat")), content);
+    files::Replace(StylePath(), content);
 }
+
+void frmFind::CreateHTMLHeader() { WritePageStyle(DefaultPageFonts()); }

@@ -27,6 +27,8 @@ int NumberOf(const QString &field)
 
 } // namespace
 
+QString FontFileName() { return QStringLiteral("FontDefi.dat"); }
+
 QString DefaultFontName() { return QStringLiteral("ＭＳ Ｐゴシック"); }
 
 FontRow DefaultFontRow(int slot)

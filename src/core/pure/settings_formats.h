@@ -5,6 +5,8 @@
 #include <array>
 
 inline constexpr int kFontSlots = 9;
+/// The name of the file that holds them, in the application folder.
+QString FontFileName();
 
 /// The window controls and page styles that have a font of their own.
 enum FontSlot : int { FontCombo = 0, FontEntry = 1, FontList = 2, FontStyle1 = 3 };

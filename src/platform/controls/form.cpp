@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWindow>
+#include <algorithm>
 
 namespace controls
 {
@@ -76,11 +78,52 @@ void Form::ShowForm()
     activateWindow();
 }
 
+void Form::ShowAbove(const Form &owner)
+{
+    const QPointer<Form> self(this);
+    const QPointer<const Form> stillOwner(&owner);
+    Load();
+    if (!self || !m_loaded)
+        return;
+    if (!isVisible() && stillOwner)
+        StandAbove(*stillOwner);
+    ShowForm();
+}
+
 void Form::ShowModal()
 {
     if (!isVisible())
         setWindowModality(Qt::ApplicationModal);
-    ShowForm();
+    const auto isOwner = [this](const Form *form) { return form != this && form->isVisible(); };
+    const auto owner = std::find_if(loadedForms.crbegin(), loadedForms.crend(), isOwner);
+    if (owner == loadedForms.crend())
+        ShowForm();
+    else
+        ShowAbove(**owner);
+}
+
+void Form::StandAbove(const Form &owner)
+{
+    // A parent widget would do the same, but a child window dies with its parent, and above one that
+    // holds the pane it is not painted.
+    if (!testAttribute(Qt::WA_Resized))
+        adjustSize();
+    create();
+    windowHandle()->setTransientParent(owner.windowHandle());
+    if (m_centred)
+        return;
+    const QRect room = owner.screen()->availableGeometry();
+    QRect place(QPoint(), size());
+    place.moveCenter(owner.geometry().center());
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    move(std::max(room.left(), place.left()), std::max(room.top(), place.top()));
+}
+
+void Form::SetDialogFrame()
+{
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
 }
 
 bool Form::Unload(UnloadReason reason)
@@ -148,6 +191,7 @@ void Form::SetTakesInput(bool takes)
 
 void Form::Centre()
 {
+    m_centred = true;
     const QRect room = screen()->availableGeometry();
     const QRect frame = frameGeometry();
     move(room.left() + (room.width() - frame.width()) / 2, room.top() + (room.height() - frame.height()) / 2);

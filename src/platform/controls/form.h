@@ -23,8 +23,11 @@ public:
     /// Runs Form_Load once. A failure in it unloads the form, gives input back to the form that it
     /// disabled, and goes on to the caller.
     void Load();
-    /// Loads if need be, and shows the form; modal ones block every other window. Both return at once.
+    /// Loads if need be, and shows the form. All return at once. ShowAbove keeps it above another window
+    /// for good; ShowModal does so above the form shown last, and blocks every other window. Both put it
+    /// over the middle of that window unless its load has placed it.
     void ShowForm();
+    void ShowAbove(const Form &owner);
     void ShowModal();
     /// Asks Form_QueryUnload, then runs Form_Unload and goes. False when it was refused. A failure
     /// in Form_QueryUnload refuses, so that what the user typed stays, except at the program's end;
@@ -39,6 +42,8 @@ public:
 
     /// Puts the form in the middle of its screen.
     void Centre();
+    /// Leaves the window frame its title and the button that closes it: nothing to minimise or to grow.
+    void SetDialogFrame();
 
     /// The buttons that Enter and Esc press, where the control that has the focus leaves the key
     /// alone. A button that has the focus takes Enter itself. Null: none.
@@ -70,11 +75,13 @@ protected:
 private:
     bool IsUnloadRefused(UnloadReason reason);
     void UndoLoad();
+    void StandAbove(const Form &owner);
     void Leave();
 
     bool m_loaded = false;
     bool m_unloading = false;
     bool m_takesInput = true;
+    bool m_centred = false;
     QList<QPointer<Form>> m_disabledWhileLoading;
     QPointer<QAbstractButton> m_enterButton;
     QPointer<QAbstractButton> m_escapeButton;

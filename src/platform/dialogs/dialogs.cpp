@@ -125,11 +125,11 @@ QString dialogs::ChooseFolder(const QString &title, const QString &folder)
     return reply.accepted ? reply.text : QString();
 }
 
-std::optional<dialogs::FontChoice> dialogs::ChooseFont(const FontChoice &start)
+std::optional<dialogs::FontChoice> dialogs::ChooseFont(const QString &title, const FontChoice &start)
 {
     Box box;
     box.kind = Box::Kind::Font;
-    box.title = QStringLiteral("フォントの指定");
+    box.title = title.isEmpty() ? QStringLiteral("フォントの指定") : title;
     box.font = start;
     const Reply reply = Show(std::move(box));
     return reply.accepted ? std::optional(reply.font) : std::nullopt;

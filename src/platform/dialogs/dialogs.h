@@ -90,7 +90,8 @@ QString InputBox(const QString &prompt, const QString &title, const QString &def
 QString OpenFile(const QString &title, const QString &filter, bool mustExist, bool createPrompt);
 QString SaveFile(const QString &title, const QString &filter, bool createPrompt);
 QString ChooseFolder(const QString &title, const QString &folder);
-std::optional<FontChoice> ChooseFont(const FontChoice &start);
+/// The font box; without a title it bears its own.
+std::optional<FontChoice> ChooseFont(const QString &title, const FontChoice &start);
 std::optional<qint32> ChooseColor(qint32 start);
 
 /// The word on a button ("OK", "キャンセル", "はい", "いいえ") and back (0 for none of them).

@@ -1,6 +1,5 @@
 #include "presentation/pure/entry_page.h"
 
-#include "core/pure/settings_formats.h"
 #include "platform/text/trim.h"
 
 QString PronunciationText(const QString &pronunciation)
@@ -36,26 +35,46 @@ QStringList MessagePageLines(const QString &message)
                 QStringLiteral("</FONT></p></body></html>")};
 }
 
-QStringList DefaultPageHeader()
+QString StyleColorName(qint32 color)
 {
-    struct Rule {
-        const char16_t *decoration, *color, *weight, *style;
+    struct Named {
+        qint32 color;
+        const char16_t *name;
     };
-    constexpr Rule rules[] = {
-        {u"none", u"Blue", u"bold", u"normal"},    {u"none", u"Black", u"normal", u"normal"},
-        {u"none", u"Black", u"normal", u"normal"}, {u"none", u"Black", u"normal", u"Italic"},
-        {u"none", u"Red", u"bold", u"normal"},     {u"Underline", u"Red", u"bold", u"normal"},
+    constexpr Named colors[] = {
+        {0x000080, u"Maroon"}, {0x0000FF, u"Red"},     {0x008000, u"Green"}, {0x008080, u"Olive"},
+        {0x00FF00, u"Lime"},   {0x00FFFF, u"Yellow"},  {0x800000, u"Navy"},  {0xFFFFFF, u"White"},
+        {0x800080, u"Purple"}, {0x808000, u"Teal"},    {0x808080, u"Gray"},  {0xC0C0C0, u"Silver"},
+        {0xFF0000, u"Blue"},   {0xFF00FF, u"Fuchsia"}, {0xFFFF00, u"Aqua"},
     };
+    for (const Named &named : colors)
+        if (named.color == color)
+            return QString::fromUtf16(named.name);
+    return QStringLiteral("Black");
+}
+
+PageFonts DefaultPageFonts()
+{
+    PageFonts fonts;
+    for (int style = 0; style < kPageStyles; ++style)
+        fonts[static_cast<std::size_t>(style)] = DefaultFontRow(FontStyle1 + style);
+    return fonts;
+}
+
+QStringList PageHeader(const PageFonts &fonts)
+{
     QStringList lines{
         QStringLiteral("<HTML><html lang=\"ja\"><HEAD><META HTTP-EQUIV=\"Content-Type\" "
                        "CONTENT=\"text/html;CHARSET=x-sjis\"><TITLE></TITLE><STYLE TYPE=\"text/css\">")};
     int number = 0;
-    for (const Rule &rule : rules)
+    for (const FontRow &font : fonts)
         lines.append(QStringLiteral("#sty%1 {line-height: 1.5; text-decoration: %2;font-family: \"%3\"; "
-                                    "font-size: 9pt;color: %4;font-weight: %5;font-style: %6;}")
-                         .arg(QString::number(++number), QString::fromUtf16(rule.decoration),
-                              DefaultFontName(), QString::fromUtf16(rule.color),
-                              QString::fromUtf16(rule.weight), QString::fromUtf16(rule.style)));
+                                    "font-size: %4pt;color: %5;font-weight: %6;font-style: %7;}")
+                         .arg(QString::number(++number),
+                              font.underline != 0 ? QStringLiteral("Underline") : QStringLiteral("none"),
+                              font.name, QString::number(font.size), StyleColorName(font.color),
+                              font.bold != 0 ? QStringLiteral("bold") : QStringLiteral("normal"),
+                              font.italic != 0 ? QStringLiteral("Italic") : QStringLiteral("normal")));
     lines.append(QStringLiteral("</STYLE></HEAD><BODY oncontextmenu=\"return false\">"));
     return lines;
 }

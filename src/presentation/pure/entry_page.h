@@ -1,7 +1,10 @@
 #pragma once
 
+#include "core/pure/settings_formats.h"
+
 #include <QString>
 #include <QStringList>
+#include <array>
 
 /// The generated pages. Record text goes into them as it stands: markup in a record is live.
 
@@ -19,8 +22,15 @@ QString PageEnd();
 /// The two lines of the blank page, or of one with a message.
 QStringList MessagePageLines(const QString &message);
 
-/// The eight lines of the default page header.
-QStringList DefaultPageHeader();
+inline constexpr int kPageStyles = 6;
+/// The fonts of the page's six styles, `#sty1` to `#sty6`.
+using PageFonts = std::array<FontRow, kPageStyles>;
+/// The fonts that the styles have when nothing was chosen.
+PageFonts DefaultPageFonts();
+/// The eight lines of the page header that gives the styles these fonts. Strike-through has no part in it.
+QStringList PageHeader(const PageFonts &fonts);
+/// The name in style rules of one of the sixteen standard colours, 0x00BBGGRR; "Black" for every other.
+QString StyleColorName(qint32 color);
 
 /// The pronunciation in its brackets with a blank in front; empty when there is none.
 QString PronunciationText(const QString &pronunciation);

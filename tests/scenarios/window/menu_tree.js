@@ -45,7 +45,7 @@ const entries = [
     ["mnuSrchFromPhrase", "熟語を検索(&P)", true, false],
     ["mnuTool", "ツール(&T)", true, false],
     ["mnuDicAdd", "辞書設定(&A)...", false, false],
-    ["mnuColorSel", "フォントと色の設定(&F)...", false, false],
+    ["mnuColorSel", "フォントと色の設定(&F)...", true, false],
     ["mnuListSettings", "検索結果のリスト件数設定(&L)...", false, false],
     ["mnuSpeakingSetting", "キャラクタの設定(&S)...", false, false],
     ["mnuHelp", "ヘルプ(&H)", true, false],

@@ -132,7 +132,7 @@ TEST_F(DialogsTest, EveryBoxCallsTheHookAndSetsThePointerAside)
     OpenFile({}, {}, true, false);
     SaveFile({}, {}, false);
     ChooseFolder({}, {});
-    ChooseFont({});
+    ChooseFont({}, {});
     ChooseColor(0);
     EXPECT_EQ(hooks, 7);
 }
@@ -157,7 +157,7 @@ TEST_F(DialogsTest, OtherBoxesGiveWhatWasChosenOrNothing)
     EXPECT_EQ(OpenFile({}, {}, true, false), QString());
     EXPECT_EQ(InputBox({}, {}, QStringLiteral("元")), QString());
     EXPECT_EQ(ChooseFolder({}, {}), QString());
-    EXPECT_FALSE(ChooseFont({}).has_value());
+    EXPECT_FALSE(ChooseFont({}, {}).has_value());
     EXPECT_FALSE(ChooseColor(5).has_value());
 }
 

@@ -8,7 +8,9 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -100,6 +102,38 @@ TEST_F(FormTest, ModalShowReturnsAtOnce)
     EXPECT_EQ(QApplication::activeModalWidget(), form);
     form->Unload();
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    DestroyUnloaded();
+}
+
+TEST_F(FormTest, StandsAboveTheFormShownLast)
+{
+    auto *main = new TestForm(QStringLiteral("frmMain"));
+    main->setGeometry(100, 100, 600, 400);
+    main->ShowForm();
+    auto *dialog = new TestForm(QStringLiteral("frmDialog"));
+    dialog->SetDialogFrame();
+    dialog->resize(200, 100);
+    dialog->ShowModal();
+    ASSERT_NE(dialog->windowHandle(), nullptr);
+    EXPECT_EQ(dialog->windowHandle()->transientParent(), main->windowHandle());
+    EXPECT_EQ(dialog->geometry().center(), main->geometry().center());
+    EXPECT_FALSE(dialog->windowFlags().testFlag(Qt::WindowMinMaxButtonsHint));
+    auto *second = new TestForm(QStringLiteral("frmSecond"));
+    second->onLoad = [second] {
+        second->resize(50, 50);
+        second->Centre();
+    };
+    second->ShowAbove(*main);
+    EXPECT_EQ(second->windowHandle()->transientParent(), main->windowHandle());
+    // A pixel's difference is the frame's.
+    const QPoint off = second->geometry().center() - second->screen()->availableGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 4);
+    // A window that belongs to another does not share its life.
+    EXPECT_TRUE(main->Unload());
+    DestroyUnloaded();
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->Unload();
+    second->Unload();
     DestroyUnloaded();
 }
 

@@ -42,7 +42,7 @@ TEST(MessagePage, IsTwoLinesWithTheUnclosedBody)
 
 TEST(PageHeader, HasEightLinesWithTheSixRules)
 {
-    const QStringList lines = DefaultPageHeader();
+    const QStringList lines = PageHeader(DefaultPageFonts());
     ASSERT_EQ(lines.size(), 8);
     EXPECT_EQ(
         lines[0],
