@@ -130,37 +130,53 @@ std::size_t BareIncrementalStep(const QString &path, const std::string &word)
     return bytes;
 }
 
-void BareLoad(const QString &path, std::span<const GeneratedRow> rows)
+BareLoader::BareLoader(const QString &path)
+    : m_database(Open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE))
 {
-    using Clock = std::chrono::steady_clock;
-    sqlite3 *database = Open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    Run(database,
+    Run(m_database,
         "PRAGMA page_size = 16384; PRAGMA journal_mode = TRUNCATE;"
         "CREATE TABLE Dictionary(Word TEXT NOT NULL COLLATE WORDMERE, Pronunciation TEXT, "
         "WordPhrase INTEGER, Description TEXT, Example TEXT, AutoID INTEGER PRIMARY KEY AUTOINCREMENT)");
-    sqlite3_stmt *insert = Prepare(
-        database,
+    m_insert = Prepare(
+        m_database,
         "INSERT INTO Dictionary(Word, Pronunciation, WordPhrase, Description, Example) VALUES(?,?,?,?,?)");
-    Run(database, "BEGIN");
+    Run(m_database, "BEGIN");
+}
+
+BareLoader::~BareLoader() { sqlite3_close_v2(m_database); }
+
+void BareLoader::Add(std::span<const GeneratedRow> rows)
+{
+    using Clock = std::chrono::steady_clock;
     Clock::time_point groupEnd = Clock::now() + std::chrono::milliseconds(250);
     for (const GeneratedRow &row : rows) {
-        Bind(insert, 1, row.word.toStdString());
-        Bind(insert, 2, row.pronunciation.toStdString());
-        Check(sqlite3_bind_int(insert, 3, row.wordPhrase));
-        Bind(insert, 4, row.description.toStdString());
-        Bind(insert, 5, row.example.toStdString());
-        if (sqlite3_step(insert) != SQLITE_DONE)
+        Bind(m_insert, 1, row.word.toStdString());
+        Bind(m_insert, 2, row.pronunciation.toStdString());
+        Check(sqlite3_bind_int(m_insert, 3, row.wordPhrase));
+        Bind(m_insert, 4, row.description.toStdString());
+        Bind(m_insert, 5, row.example.toStdString());
+        if (sqlite3_step(m_insert) != SQLITE_DONE)
             std::abort();
-        sqlite3_reset(insert);
+        sqlite3_reset(m_insert);
         if (Clock::now() >= groupEnd) {
-            Run(database, "COMMIT; BEGIN");
+            Run(m_database, "COMMIT; BEGIN");
             groupEnd = Clock::now() + std::chrono::milliseconds(250);
         }
     }
-    Run(database, "COMMIT");
-    sqlite3_finalize(insert);
-    Run(database, "CREATE UNIQUE INDEX WordID ON Dictionary(Word, AutoID, WordPhrase)");
-    sqlite3_close(database);
+}
+
+void BareLoader::Finish()
+{
+    Run(m_database, "COMMIT");
+    sqlite3_finalize(m_insert);
+    Run(m_database, "CREATE UNIQUE INDEX WordID ON Dictionary(Word, AutoID, WordPhrase)");
+}
+
+void BareLoad(const QString &path, std::span<const GeneratedRow> rows)
+{
+    BareLoader loader(path);
+    loader.Add(rows);
+    loader.Finish();
 }
 
 void BareIndexScan(const QString &path)

@@ -6,6 +6,9 @@
 #include <span>
 #include <string>
 
+struct sqlite3;
+struct sqlite3_stmt;
+
 /// The engine's floor: the same work on the same files by SQLite's C API alone.
 namespace bench
 {
@@ -14,7 +17,25 @@ namespace bench
 /// read whole. The number of bytes read, so that nothing is left out.
 std::size_t BareIncrementalStep(const QString &path, const std::string &word);
 
-/// Creates a dictionary's table, stores the rows in groups of a quarter second and builds the index.
+/// A new file with a dictionary's table, whose rows are stored in groups of a quarter second.
+class BareLoader
+{
+public:
+    explicit BareLoader(const QString &path);
+    ~BareLoader();
+    BareLoader(const BareLoader &) = delete;
+    BareLoader &operator=(const BareLoader &) = delete;
+
+    void Add(std::span<const GeneratedRow> rows);
+    /// Commits the last group and builds the index.
+    void Finish();
+
+private:
+    sqlite3 *m_database;
+    sqlite3_stmt *m_insert;
+};
+
+/// All of that for these rows.
 void BareLoad(const QString &path, std::span<const GeneratedRow> rows);
 
 /// Walks the whole index with a function that is asked for each headword and passes none.

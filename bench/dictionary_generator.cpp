@@ -3,6 +3,8 @@
 #include "platform/data/adodb.h"
 #include "platform/data/adox.h"
 #include "platform/files/drive_path.h"
+#include "platform/files/line_file.h"
+#include "platform/text/shift_jis.h"
 
 #include <algorithm>
 #include <cmath>
@@ -162,6 +164,23 @@ void MakeEmptyDictionary(const QString &hostPath)
     table.AppendColumn(number);
     table.AppendKey({u"WordID"_s, ADOX::adKeyPrimary, u"Dictionary"_s, {u"Word"_s, u"AutoID"_s}});
     catalog.AppendTable(table);
+}
+
+void WriteEijiroSource(const QString &hostPath, std::uint32_t count, RowOrder order)
+{
+    files::LineWriter source(files::DrivePath(hostPath), files::LineWriter::Mode::Output);
+    const DictionaryGenerator generator(count, order);
+    for (std::uint32_t number = 0; number < count; ++number) {
+        const GeneratedRow row = generator.Row(number);
+        QString line = u"■"_s + row.word + u" : "_s;
+        if (!row.pronunciation.isEmpty())
+            line += u"【発音】"_s + row.pronunciation + u"、"_s;
+        line += row.description;
+        if (!row.example.isEmpty())
+            line += u" / 【用例】 "_s + row.example;
+        source.WriteLine(text::EncodePlain(line));
+    }
+    source.Close();
 }
 
 void MakeDictionary(const QString &hostPath, std::uint32_t count, RowOrder order)

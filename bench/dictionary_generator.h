@@ -39,6 +39,10 @@ private:
 /// Makes a dictionary file at a host path through the engine; raises what the engine raises.
 void MakeDictionary(const QString &hostPath, std::uint32_t count, RowOrder order);
 
+/// Writes the same rows as a source text of the form "■headword : 【発音】...、meaning / 【用例】 example",
+/// in code page 932, at a host path.
+void WriteEijiroSource(const QString &hostPath, std::uint32_t count, RowOrder order);
+
 /// Makes the file without any row.
 void MakeEmptyDictionary(const QString &hostPath);
 

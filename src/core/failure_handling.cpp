@@ -76,6 +76,13 @@ void ShowMissingDatabase(const QString &lastLine)
         QStringLiteral("設定辞書「") + Shared.CurrentDicName + QStringLiteral("」の辞書データベースなし"));
 }
 
+void ShowPrintingUnsupported()
+{
+    dialogs::MsgBox(
+        QStringLiteral("ご利用のオペレーティングシステム(OS)ではこの機能はサポートされていません。"),
+        dialogs::Exclamation, QStringLiteral("印刷機能未サポート"));
+}
+
 void ShowRecords(const std::function<void()> &procedure)
 {
     try {

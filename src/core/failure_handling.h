@@ -17,6 +17,9 @@ void ShowMissingDatabase(const QString &lastLine);
 /// The last line of that message as the Enter key and the page writers have it.
 QString MissingDatabaseHint();
 
+/// Tells the user that printing cannot be done.
+void ShowPrintingUnsupported();
+
 /// Runs a procedure that shows records: failures -2147467259 and 5 tell of the missing dictionary,
 /// others show the generic box. Nothing is raised.
 void ShowRecords(const std::function<void()> &procedure);

@@ -1,6 +1,7 @@
 #include "core/catalogue.h"
 #include "core/failure_handling.h"
 #include "core/font_rows.h"
+#include "core/list_settings.h"
 #include "core/pure/app_files.h"
 #include "core/pure/dictionary_file.h"
 #include "core/shared_state.h"
@@ -21,10 +22,8 @@
 namespace
 {
 
-QString ListFile() { return QStringLiteral("ListDefi.dat"); }
 QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
 QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
-QString HelpFile() { return AppFilePath(QStringLiteral("Help.HLP")); }
 
 void MoveTo(QWidget *control, int left)
 {
@@ -75,17 +74,8 @@ void frmFind::LoadFonts()
 
 void frmFind::LoadListSettings()
 {
-    const QString path = AppFilePath(ListFile());
-    if (!files::Exists(path))
-        files::Replace(path, DefaultListLine().toLatin1() + "\r\n");
-    files::LineReader reader(path);
-    const ListSettings settings = ParseListLine(reader.AtEnd() ? QString() : reader.ReadLine());
-    Shared.IncListCount = settings.IncListCount;
-    Shared.IncEntriesPerPage = settings.IncEntriesPerPage;
-    Shared.ListPageSize = settings.ListPageSize;
-    Shared.MaxListCount = settings.MaxListCount;
-    Shared.EntriesPerPage = settings.EntriesPerPage;
-    Shared.WordBookMax = settings.WordBookMax;
+    const ListSettings settings = ReadListSettings();
+    UseListSizes(settings);
     Shared.SearchTarget = settings.SearchTarget;
 }
 
@@ -144,7 +134,7 @@ void frmFind::ApplySearchTarget()
 
 void frmFind::CheckHelpFile()
 {
-    if (files::Exists(HelpFile()))
+    if (files::Exists(HelpFilePath()))
         return;
     dialogs::MsgBox(QStringLiteral("ヘルプファイルがアプリケーションフォルダから\r\n"
                                    "削除されています！ Wordmere は起動しますが、\r\n"
@@ -232,7 +222,7 @@ void frmFind::Form_Unload(controls::UnloadReason)
     if (LexiconsAllocated() != QStringLiteral("0")) {
         GuardStep([] { SaveLexicons(CatalogueFile()); });
         GuardStep([] { files::DeleteIfThere(ResultStorePath()); });
-        host::WinHelp(HelpFile(), host::HelpQuit);
+        host::WinHelp(HelpFilePath(), host::HelpQuit);
     }
     Q_EMIT Gone();
 }

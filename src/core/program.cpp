@@ -6,8 +6,10 @@
 #include "platform/browser/web_browser.h"
 #include "platform/controls/handler.h"
 #include "platform/data/adodb.h"
+#include "platform/dialogs/dialogs.h"
 #include "platform/files/application_folder.h"
 #include "presentation/frmFind.h"
+#include "presentation/help_viewer.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -91,11 +93,16 @@ void Program::PrepareApplication()
     if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(words);
 
+    InstallHelpViewer();
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
+    dialogs::SetBeforeBoxHook(ADODB::CommitGroups);
     ADODB::EngineHooks().progress = host::DoEvents;
-    ADODB::EngineHooks().busy = [](bool busy) {
-        host::SetMousePointer(busy ? host::PointerHourglass : host::PointerDefault);
+    // Who works longer than the engine keeps his own pointer.
+    ADODB::EngineHooks().busy = [before = host::MousePointer()](bool busy) mutable {
+        if (busy)
+            before = host::MousePointer();
+        host::SetMousePointer(busy ? static_cast<int>(host::PointerHourglass) : before);
     };
 }
 

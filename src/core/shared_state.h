@@ -16,6 +16,8 @@ struct SharedState {
     std::uint8_t SearchMode = ModeIncremental;
     std::uint8_t SearchTarget = TargetAll;
     std::int16_t StopRequested = 0;
+    /// 1 while no conversion runs, and as soon as one is asked to stop.
+    std::int16_t ConvStopFlag = 1;
 
     std::uint8_t CompositeKind = 0;
     QString SearchText, CompositeMeaningText, CompositeExampleText;

@@ -142,7 +142,12 @@ public:
     void mnuWildCard_Click();
     void mnuTxtInMeaning_Click();
     void mnuTxtInExample_Click();
+    void mnuDicAdd_Click();
+    void mnuCompress_Click();
     void mnuHideListBox_Click();
+    void mnuOpen_Click();
+    /// Opens the record editor as `EditOpenMode` says.
+    void ShowRecordEditor();
     void mnuExit_Click();
     void mnuCopy_Click();
     void mnuSelectAll_Click();
@@ -150,10 +155,17 @@ public:
     void mnuPrint_Click();
     void mnuPrintView_Click();
     void mnuPageSettings_Click();
+    void mnuWildCardBuilder_Click();
     void mnuAddSearchCondition_Click();
+    void mnuHistory_Click();
+    void mnuColorSel_Click();
+    void mnuFileCreate_Click();
+    void mnuCnv_Click();
+    void mnuListSettings_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
-    void mnuColorSel_Click();
+    void mnuTopicSearch_Click();
+    void mnuAbout_Click();
     void Picture12_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
@@ -161,6 +173,9 @@ public:
     void FlatPicture(int number);
     /// Empties the entry box, the list and the page, and puts the focus back: what Esc does.
     void ClearSearch();
+    /// Puts away what the list sizes or the dictionary have made invalid: the list with its store and
+    /// its paging, the page and the entry box. The pane goes to the empty page only where it `showsPage`.
+    void ResetMainView(bool showsPage);
 
     // core/
     void ReadFontFile(const QString &name);
@@ -175,6 +190,8 @@ protected:
     bool Form_QueryUnload(controls::UnloadReason reason) override;
     void Form_Unload(controls::UnloadReason reason) override;
     void Form_Resize() override;
+    /// A form that took the input away is to be closed first. Where it left it so, the frame is the way out.
+    bool AcceptsFrameClose() const override { return !IsHeld(); }
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -212,8 +229,6 @@ private:
     void ClearForModeChange();
 
     // presentation/dialog_commands.cpp
-    /// Enables the composite builder's commands in the modes in which they have something to say.
-    void OfferCompositeBuilder();
 
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();

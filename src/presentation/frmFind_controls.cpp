@@ -25,13 +25,11 @@ namespace
 
 frmFind *theMainWindow = nullptr;
 
-/// The entries that have work to do; the others wait, disabled, for the dialogs they open.
-constexpr std::array kServedEntries{
-    u"mnuPageSettings",       u"mnuPrint",          u"mnuPrintView",    u"mnuExit",     u"mnuCopy",
-    u"mnuSelectAll",          u"mnuFind",           u"mnuHideListBox",  u"mnuIncSrch",  u"mnuSrchFromAll",
-    u"mnuSrchFromWord",       u"mnuSrchFromPhrase", u"mnuPreSrch",      u"mnuMidSrch",  u"mnuPostSrch",
-    u"mnuWildCard",           u"mnuTxtInMeaning",   u"mnuTxtInExample", u"mnuColorSel", u"mCancel",
-    u"mnuAddSearchCondition",
+/// The entries that wait, disabled, for the dialogs and views they open.
+constexpr std::array kWaitingEntries{
+    u"mnuGoBack",          u"mnuGoForward",    u"mnuGoHome",
+    u"mnuCancel",          u"mnuReflesh",      u"mnuSrchWebSite",
+    u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
 };
 
 struct Accelerator {
@@ -91,8 +89,8 @@ void frmFind::MakeMenus()
         } else {
             action = menu->addAction(row.caption);
             action->setCheckable(row.checkable);
-            action->setEnabled(std::find(kServedEntries.begin(), kServedEntries.end(), row.name) !=
-                               kServedEntries.end());
+            action->setEnabled(std::find(kWaitingEntries.begin(), kWaitingEntries.end(), row.name) ==
+                               kWaitingEntries.end());
             addAction(action);
         }
         action->setObjectName(row.name);
@@ -235,7 +233,11 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuWildCard"), &frmFind::mnuWildCard_Click, 5);
     Command(QStringLiteral("mnuTxtInMeaning"), &frmFind::mnuTxtInMeaning_Click, 6);
     Command(QStringLiteral("mnuTxtInExample"), &frmFind::mnuTxtInExample_Click, 7);
+    Command(QStringLiteral("mnuDicAdd"), &frmFind::mnuDicAdd_Click);
+    Command(QStringLiteral("mnuCompress"), &frmFind::mnuCompress_Click);
     Command(QStringLiteral("mnuHideListBox"), &frmFind::mnuHideListBox_Click);
+    Command(QStringLiteral("mnuOpen"), &frmFind::mnuOpen_Click);
+    Command(QStringLiteral("mnuFileCreate"), &frmFind::mnuFileCreate_Click);
     Command(QStringLiteral("mnuExit"), &frmFind::mnuExit_Click);
     Command(QStringLiteral("mnuCopy"), &frmFind::mnuCopy_Click, 11);
     Command(QStringLiteral("mnuSelectAll"), &frmFind::mnuSelectAll_Click);
@@ -243,9 +245,15 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuPrint"), &frmFind::mnuPrint_Click);
     Command(QStringLiteral("mnuPrintView"), &frmFind::mnuPrintView_Click);
     Command(QStringLiteral("mnuPageSettings"), &frmFind::mnuPageSettings_Click);
-    Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
-    Command(QString(), &frmFind::Picture10_MouseDown, 10);
     Command(QStringLiteral("mnuColorSel"), &frmFind::mnuColorSel_Click);
+    Command(QStringLiteral("mnuAddSearchCondition"), &frmFind::mnuAddSearchCondition_Click, 16);
+    Command(QStringLiteral("mnuCnv"), &frmFind::mnuCnv_Click);
+    Command(QStringLiteral("mnuWildCardBuilder"), &frmFind::mnuWildCardBuilder_Click, 8);
+    Command(QStringLiteral("mnuHistory"), &frmFind::mnuHistory_Click, 9);
+    Command(QStringLiteral("mnuListSettings"), &frmFind::mnuListSettings_Click);
+    Command(QString(), &frmFind::Picture10_MouseDown, 10);
+    Command(QStringLiteral("mnuTopicSearch"), &frmFind::mnuTopicSearch_Click);
+    Command(QStringLiteral("mnuAbout"), &frmFind::mnuAbout_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);
     Command(QString(), &frmFind::Picture14_MouseDown, 14);
     Command(QString(), &frmFind::Picture15_MouseDown, 15);
@@ -260,14 +268,14 @@ void frmFind::ConnectHandlers()
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array served{1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 28};
+    constexpr std::array waiting{22, 23, 24, 25, 26, 27};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {
             PictureOf(number)->setFocusPolicy(Qt::NoFocus);
             continue;
         }
-        PictureOf(number)->setEnabled(std::find(served.begin(), served.end(), number) != served.end());
+        PictureOf(number)->setEnabled(std::find(waiting.begin(), waiting.end(), number) == waiting.end());
         connect(PictureOf(number), &controls::Picture::MouseMove, this, [this, number] {
             FlatPicture(number);
             RaisePicture(number);

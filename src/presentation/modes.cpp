@@ -42,7 +42,6 @@ void frmFind::TakeMode(std::uint8_t mode)
     CheckModeMenu(mode);
     Shared.SearchMode = mode;
     setWindowTitle(QStringLiteral("Wordmere") + QString::fromUtf16(kModeCaptions.at(mode)));
-    OfferCompositeBuilder();
 }
 
 void frmFind::EnterMode(std::uint8_t mode)

@@ -324,15 +324,19 @@ void frmFind::List1_DblClick()
         key = DecodeResult(
             files::FixedRecordFile(ResultStorePath(), kResultRecordLength).Read(Shared.ListFirstPos + row));
     }
-    const bool there = SeekResult(OpenViewTable(), key);
+    ADODB::Recordset &table = OpenViewTable();
+    const bool there = SeekResult(table, key);
+    // As the dictionary has it: the key has its word trimmed.
+    const QString word = there ? TextOf(table, u"Word") : QString();
     CloseView();
     if (!there) {
         TellEnd(QStringLiteral("この見出し語は検索後に削除されたため存在しません！"), QStringLiteral("削除"));
         return;
     }
-    Shared.CurrentWord = key.word;
+    Shared.CurrentWord = word;
     Shared.CurrentAutoID = key.autoID;
     Shared.EditOpenMode = 1;
+    ShowRecordEditor();
 }
 
 void frmFind::ShowListPosition()

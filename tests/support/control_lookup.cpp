@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QWindow>
 
 using controls::Form;
 
@@ -28,6 +29,15 @@ QAction *ActionNamed(const Form *form, const QString &name)
         return action;
     const auto *window = qobject_cast<const frmFind *>(form);
     return window ? window->Menu(name) : nullptr;
+}
+
+/// Whether a window belongs to the modal window, which then does not block it.
+bool StandsBeside(const QWidget &modal, const QWidget &window)
+{
+    const QWindow *front = modal.windowHandle();
+    const QWindow *own = window.windowHandle();
+    return modal.isAncestorOf(&window) ||
+           (front && own && front->isAncestorOf(own, QWindow::IncludeTransients));
 }
 
 } // namespace
@@ -94,7 +104,7 @@ QString WhyOutOfReach(const QWidget *widget)
     if (form && !form->TakesInput())
         return QStringLiteral("its form takes no input");
     const QWidget *modal = QApplication::activeModalWidget();
-    if (modal && modal != window && !modal->isAncestorOf(window))
+    if (modal && modal != window && !StandsBeside(*modal, *window))
         return QStringLiteral("the modal form %1 is open").arg(modal->objectName());
     if (!widget->isVisible())
         return QStringLiteral("it is not visible");

@@ -13,6 +13,7 @@
 #include <QSpinBox>
 #include <QTextBlock>
 #include <QTextEdit>
+#include <QTreeView>
 
 namespace
 {
@@ -40,11 +41,11 @@ QString ContentOf(const QTextDocument *document)
     return LinesWithCrLf(lines.join(u'\n'));
 }
 
-QString RowText(const QAbstractItemModel *model, int row)
+QString RowText(const QAbstractItemModel &model, const QModelIndex &row)
 {
     QStringList columns;
-    for (int column = 0; column < model->columnCount(); ++column)
-        columns.append(model->index(row, column).data().toString());
+    for (int column = 0; column < model.columnCount(row.parent()); ++column)
+        columns.append(row.siblingAtColumn(column).data().toString());
     return columns.join(u'\t');
 }
 
@@ -81,7 +82,7 @@ std::optional<QString> ContentOfWidget(const QWidget *widget)
         return list->Text();
     if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
         const int row = SelectedRowOf(view);
-        return row < 0 ? QString() : RowText(view->model(), row);
+        return row < 0 ? QString() : ItemsOf(view).value(row);
     }
     return std::nullopt;
 }
@@ -95,6 +96,14 @@ QPalette::ColorRole WritingRole(const QWidget *widget)
 }
 
 } // namespace
+
+QModelIndexList RowsOf(const QTreeView &tree)
+{
+    QModelIndexList rows;
+    for (QModelIndex row = tree.model()->index(0, 0); row.isValid(); row = tree.indexBelow(row))
+        rows.append(row);
+    return rows;
+}
 
 QString ShownTextOf(const Target &target)
 {
@@ -115,6 +124,8 @@ QString SelectedTextOf(const QWidget *widget)
         return LinesWithCrLf(plain->textCursor().selectedText());
     if (const auto *rich = qobject_cast<const QTextEdit *>(widget))
         return LinesWithCrLf(rich->textCursor().selectedText());
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        return LinesWithCrLf(label->selectedText());
     if (const auto *pane = qobject_cast<const browser::WebBrowser *>(widget))
         return pane->SelectedText();
     if (const auto *combo = qobject_cast<const QComboBox *>(widget); combo && combo->lineEdit())
@@ -148,8 +159,13 @@ QStringList ItemsOf(const QWidget *widget)
     else
         HasNo(widget, QStringLiteral("items"));
     QStringList items;
+    if (const auto *tree = qobject_cast<const QTreeView *>(widget)) {
+        for (const QModelIndex &index : RowsOf(*tree))
+            items.append(RowText(*model, index));
+        return items;
+    }
     for (int row = 0; row < model->rowCount(); ++row)
-        items.append(RowText(model, row));
+        items.append(RowText(*model, model->index(row, 0)));
     return items;
 }
 
@@ -159,6 +175,8 @@ int SelectedRowOf(const QWidget *widget)
         return list->ListIndex();
     if (const auto *combo = qobject_cast<const QComboBox *>(widget))
         return combo->currentIndex();
+    if (const auto *tree = qobject_cast<const QTreeView *>(widget))
+        return static_cast<int>(RowsOf(*tree).indexOf(tree->currentIndex()));
     if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
         const QModelIndexList rows = view->selectionModel()->selectedIndexes();
         return rows.isEmpty() ? -1 : rows.first().row();

@@ -4,7 +4,10 @@
 #include "platform/controls/twips.h"
 #include "platform/dialogs/dialogs.h"
 
+#include <QModelIndex>
 #include <QStringList>
+
+class QTreeView;
 
 /// What a control shows. Each raises ScriptError for a control that has nothing of the kind.
 
@@ -15,6 +18,8 @@ QString SelectedTextOf(const QWidget *widget);
 QString CaptionOf(const Target &target);
 QStringList ItemsOf(const QWidget *widget);
 int SelectedRowOf(const QWidget *widget);
+/// The rows of a tree that can be scrolled to, top to bottom: those beneath an open one count on.
+QModelIndexList RowsOf(const QTreeView &tree);
 bool IsChecked(const Target &target);
 /// The control's own flag; of a form, whether it takes input.
 bool IsEnabled(const Target &target);

@@ -2,6 +2,7 @@
 #include "functions.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/form.h"
+#include "platform/controls/progress_bar.h"
 #include "platform/host/host.h"
 #include "presentation/frmFind.h"
 #include "script_error.h"
@@ -45,10 +46,11 @@ QJSValue Progress(Scenario &scenario, const Arguments &arguments)
     const auto *bar = qobject_cast<QProgressBar *>(FindControl(arguments.Text(0)));
     if (!bar)
         throw ScriptError(QStringLiteral("progress: %1 is no progress bar").arg(arguments.Text(0)));
+    const auto *own = qobject_cast<const controls::ProgressBar *>(bar);
     QJSValue value = scenario.Engine().newObject();
     value.setProperty(QStringLiteral("min"), bar->minimum());
     value.setProperty(QStringLiteral("max"), bar->maximum());
-    value.setProperty(QStringLiteral("value"), bar->value());
+    value.setProperty(QStringLiteral("value"), own ? own->Value() : bar->value());
     return value;
 }
 

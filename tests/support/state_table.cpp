@@ -2,6 +2,7 @@
 
 #include "control_lookup.h"
 #include "core/shared_state.h"
+#include "management/frmMstmnt.h"
 #include "platform/controls/form.h"
 #include "presentation/frmFind.h"
 #include "script_error.h"
@@ -80,7 +81,7 @@ const QHash<QString, Reader> &SharedReaders()
         SHARED(CurrentAutoID),        SHARED(SavedIncSearchText), SHARED(EditOpenMode),
         SHARED(SpeechEnabled),        SHARED(CharacterFolder),    SHARED(CharacterFile),
         SHARED(CharacterPath),        SHARED(CharacterID),        SHARED(CharacterMoved),
-        SHARED(NoCharacterFile),
+        SHARED(NoCharacterFile),      SHARED(ConvStopFlag),
     };
     return readers;
 }
@@ -105,11 +106,23 @@ const QHash<QString, WindowReader> &WindowReaders()
 }
 #undef WINDOW
 
+#define FORM(form, member)                                                                                   \
+    {                                                                                                        \
+        QStringLiteral(#form "." #member), [](QJSEngine &engine, const controls::Form &open) {               \
+            return ScriptValue(engine, static_cast<const form &>(open).member);                              \
+        }                                                                                                    \
+    }
+
 QHash<QString, FormStateReader> &FormReaders()
 {
-    static QHash<QString, FormStateReader> readers;
+    static QHash<QString, FormStateReader> readers{
+        FORM(frmMstmnt, EditState),       FORM(frmMstmnt, DirtyKind),   FORM(frmMstmnt, MainListChanged),
+        FORM(frmMstmnt, CloseHandled),    FORM(frmMstmnt, OrigWord),    FORM(frmMstmnt, OrigPronunciation),
+        FORM(frmMstmnt, OrigDescription), FORM(frmMstmnt, OrigExample), FORM(frmMstmnt, OrigWordPhrase),
+    };
     return readers;
 }
+#undef FORM
 
 [[noreturn]] void Unknown(const QString &name)
 {

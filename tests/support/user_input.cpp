@@ -19,6 +19,7 @@
 #include <QSpinBox>
 #include <QStyleOptionButton>
 #include <QTextEdit>
+#include <QTreeView>
 
 namespace
 {
@@ -90,9 +91,10 @@ Spot BareSpot(QWidget *form)
 Spot SpotOfRow(QWidget *widget, int row)
 {
     auto *view = qobject_cast<QAbstractItemView *>(widget);
-    if (!view || row < 0 || row >= view->model()->rowCount())
+    if (!view || row < 0 || row >= ItemsOf(view).size())
         throw ScriptError(QStringLiteral("%1 has no row %2").arg(AddressOf(widget)).arg(row));
-    const QModelIndex index = view->model()->index(row, 0);
+    const auto *tree = qobject_cast<const QTreeView *>(view);
+    const QModelIndex index = tree ? RowsOf(*tree).at(row) : view->model()->index(row, 0);
     view->scrollTo(index);
     const QRect shown = view->visualRect(index) & view->viewport()->rect();
     return {view->viewport(), shown.center()};

@@ -1,5 +1,7 @@
 #include "dictd_entry.h"
 
+#include "core/pure/record_rules.h"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
@@ -10,10 +12,6 @@ namespace
 using namespace Qt::StringLiterals;
 using sample::Entry;
 using sample::Sense;
-
-constexpr qsizetype kWordLength = 255;
-constexpr qsizetype kPronunciationLength = 64;
-constexpr qsizetype kDescriptionLength = 1024;
 
 /// The label of a part of speech, as Japanese dictionaries write it.
 QString Label(const QString &partOfSpeech)
@@ -178,7 +176,7 @@ std::optional<sample::Record> sample::MakeRecord(const QList<Entry> &entries)
     }
     if (parts.isEmpty() || record.word.isEmpty())
         return std::nullopt;
-    record.wordPhrase = record.word.contains(u' ') ? 2 : 1;
+    record.wordPhrase = WordPhraseRule(record.word);
     record.description = Shortened(parts.join(u' '));
     return record;
 }

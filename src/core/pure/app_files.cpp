@@ -13,6 +13,8 @@ QString AppFilePath(const QString &name)
 
 QString ResultStorePath() { return AppFilePath(QStringLiteral("ListData.dat")); }
 
+QString HelpFilePath() { return AppFilePath(QStringLiteral("Help.HLP")); }
+
 QString WindowsFolderRoot() { return files::ApplicationFolder(); }
 
 qsizetype AnsiByteLen(const QString &text) { return text::EncodeRecord(text).size(); }

@@ -8,6 +8,9 @@ QString AppFilePath(const QString &name);
 /// The drive path of `ListData.dat`, the store of the hits of the last list search.
 QString ResultStorePath();
 
+/// The drive path of `Help.HLP`.
+QString HelpFilePath();
+
 /// The folder that holds `msagent\Chars`, the default place of the characters: the application
 /// folder, as a drive path.
 QString WindowsFolderRoot();

@@ -1,6 +1,14 @@
 #include "core/pure/dictionary_file.h"
 
+#include "core/pure/record_rules.h"
 #include "platform/data/adox.h"
+#include "platform/data/dictionary_file.h"
+#include "platform/failure/runtime_error.h"
+#include "platform/files/drive_path.h"
+#include "platform/files/file_operations.h"
+#include "platform/text/trim.h"
+
+#include <QScopeGuard>
 
 QString ViewConnectionString(const QString &path)
 {
@@ -14,7 +22,10 @@ void OpenTableByIndex(ADODB::Connection &connection, ADODB::Recordset &recordset
     recordset.SetIndex(QStringLiteral("WordID"));
 }
 
-void CreateDictionaryFile(const QString &path)
+namespace
+{
+
+void MakeDictionary(const QString &path)
 {
     const QString tableName = QStringLiteral("Dictionary");
     {
@@ -22,8 +33,8 @@ void CreateDictionaryFile(const QString &path)
         ADOX::Table table;
         catalog.Create(ViewConnectionString(path) + QStringLiteral("Jet OLEDB:Engine Type=5;"));
         table.Name = tableName;
-        table.AppendColumn(QStringLiteral("Word"), ADODB::adVarWChar, 255);
-        table.AppendColumn(QStringLiteral("Pronunciation"), ADODB::adVarWChar, 64);
+        table.AppendColumn(QStringLiteral("Word"), ADODB::adVarWChar, kWordLength);
+        table.AppendColumn(QStringLiteral("Pronunciation"), ADODB::adVarWChar, kPronunciationLength);
         table.AppendColumn(QStringLiteral("WordPhrase"), ADODB::adSmallInt, 0);
         table.AppendColumn(QStringLiteral("Description"), ADODB::adLongVarWChar, 0);
         table.AppendColumn(QStringLiteral("Example"), ADODB::adLongVarWChar, 0);
@@ -46,4 +57,29 @@ void CreateDictionaryFile(const QString &path)
     key.RelatedTable = tableName;
     key.Columns = {QStringLiteral("Word"), QStringLiteral("AutoID")};
     table.AppendKey(key);
+}
+
+void TakeAway(const QString &path) noexcept
+{
+    try {
+        files::DeleteIfThere(path);
+    } catch (const RuntimeError &) {
+        // What failed before is told; what stays bears a name of its own.
+        return;
+    }
+}
+
+} // namespace
+
+void CreateDictionaryFile(const QString &path)
+{
+    const QString trimmed = text::Trim(path);
+    data::RequireNothingAt(files::HostPath(trimmed));
+    // Made under another name: whatever ends the process meanwhile, nobody finds a dictionary in part.
+    const QString unfinished = trimmed + QStringLiteral(".unfinished");
+    TakeAway(unfinished);
+    auto takeAway = qScopeGuard([&unfinished] { TakeAway(unfinished); });
+    MakeDictionary(unfinished);
+    files::Rename(unfinished, trimmed);
+    takeAway.dismiss();
 }

@@ -4,8 +4,9 @@
 
 #include <QString>
 
-/// Creates a dictionary file with an empty table. The caller sees to it that the path (a drive path)
-/// is free; failures of the data engine go to the caller.
+/// Creates a dictionary file with an empty table. The caller sees to it that the path (a drive path,
+/// whose blanks at both ends do not count) is free; failures of the data engine go to the caller and
+/// leave nothing there.
 void CreateDictionaryFile(const QString &path);
 
 /// The connection string under which records are shown and walked.

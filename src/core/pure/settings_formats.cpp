@@ -89,6 +89,18 @@ ListSettings ParseListLine(const QString &line)
     return settings;
 }
 
+QString ListLine(const ListSettings &settings)
+{
+    return QStringLiteral("%1%2%3%4%5%6%7")
+        .arg(settings.IncListCount, 3, 10, QLatin1Char('0'))
+        .arg(settings.IncEntriesPerPage, 2, 10, QLatin1Char('0'))
+        .arg(settings.ListPageSize, 3, 10, QLatin1Char('0'))
+        .arg(settings.MaxListCount, 5, 10, QLatin1Char('0'))
+        .arg(settings.EntriesPerPage, 2, 10, QLatin1Char('0'))
+        .arg(settings.WordBookMax, 4, 10, QLatin1Char('0'))
+        .arg(settings.SearchTarget);
+}
+
 AgentSettings DefaultAgentSettings() { return {0, QStringLiteral("default"), QString()}; }
 
 QByteArray EncodeAgentSettings(const AgentSettings &settings)

@@ -47,6 +47,8 @@ QString DefaultListLine();
 /// Cuts a line of 20 characters into its fields; a line of another length counts as the default
 /// one. Raises 13 for a field that is no number, 6 for one that does not fit.
 ListSettings ParseListLine(const QString &line);
+/// The line of the settings, each number with zeros in front to the width of its field.
+QString ListLine(const ListSettings &settings);
 
 /// The one record of `AgentDefi.dat`.
 struct AgentSettings {

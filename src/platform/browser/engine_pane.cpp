@@ -68,8 +68,13 @@ private:
     std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
-/// Dialogs on this platform can be answered by nobody.
-bool NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
+/// Whether what is printed goes to a file that the engine can write by itself. A preview has the
+/// printer's file name too, and must not write there.
+bool MakesPdf(const QPrinter &printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty() &&
+           printer.paintEngine()->type() != QPaintEngine::Picture;
+}
 
 /// Whether what is printed goes to a file that the engine can write by itself. A preview has the
 /// printer's file name too, and must not write there.
@@ -299,7 +304,7 @@ bool EnginePane::PrintTo(QPrinter &printer)
 
 void EnginePane::Print()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     QPrintDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("印刷"));
@@ -309,7 +314,7 @@ void EnginePane::Print()
 
 void EnginePane::PreviewPrint()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     bool succeeded = true;
     QPrintPreviewDialog dialog(&Printer(), m_view);
@@ -325,7 +330,7 @@ void EnginePane::PreviewPrint()
 
 void EnginePane::SetUpPage()
 {
-    if (NobodyIsThere())
+    if (host::NobodyIsThere())
         return;
     QPageSetupDialog dialog(&Printer(), m_view);
     dialog.setWindowTitle(QStringLiteral("ページ設定"));

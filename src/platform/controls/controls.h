@@ -34,6 +34,10 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
 
 private:
+    /// Takes away the first half of a character whose second half found no room in front of the greatest
+    /// length; whether there was one.
+    bool DropHalfCharacter();
+
     bool m_composing = false;
 };
 

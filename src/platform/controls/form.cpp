@@ -178,16 +178,21 @@ void Form::SetTakesInput(bool takes)
     m_takesInput = takes;
     if (!takes) {
         InputBlocker::Block(*this);
-        if (!loadingForms.isEmpty() && loadingForms.constLast() != this)
-            loadingForms.constLast()->m_disabledWhileLoading.append(this);
+        if (!loadingForms.isEmpty() && loadingForms.constLast() != this) {
+            m_holder = loadingForms.constLast();
+            m_holder->m_disabledWhileLoading.append(this);
+        }
         return;
     }
+    m_holder = nullptr;
     InputBlocker::Release();
     if (isVisible()) {
         raise();
         activateWindow();
     }
 }
+
+bool Form::IsHeld() const { return m_holder && m_holder->m_loaded; }
 
 void Form::Centre()
 {

@@ -39,6 +39,8 @@ public:
     /// it back and activates the window. Closing by the frame is asked of AcceptsFrameClose.
     void SetTakesInput(bool takes);
     bool TakesInput() const { return m_takesInput; }
+    /// Whether a form that blocked this one's input when it was loaded is still open.
+    bool IsHeld() const;
 
     /// Puts the form in the middle of its screen.
     void Centre();
@@ -83,6 +85,7 @@ private:
     bool m_takesInput = true;
     bool m_centred = false;
     QList<QPointer<Form>> m_disabledWhileLoading;
+    QPointer<Form> m_holder;
     QPointer<QAbstractButton> m_enterButton;
     QPointer<QAbstractButton> m_escapeButton;
 };

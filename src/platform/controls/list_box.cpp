@@ -356,9 +356,12 @@ void ListBox::mouseReleaseEvent(QMouseEvent *) { m_pressedRow = -1; }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton && TakesUserInput() &&
-        indexAt(event->position().toPoint()).isValid())
+    if (event->button() != Qt::LeftButton || !TakesUserInput())
+        return;
+    if (indexAt(event->position().toPoint()).isValid())
         Q_EMIT DblClick();
+    else
+        Q_EMIT DblClickBesideRows();
 }
 
 void ListBox::keyPressEvent(QKeyEvent *event)
@@ -381,8 +384,8 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     const int before = ListIndex();
-    if (before < 0 && MovesSelection(event->key()) && event->key() != Qt::Key_End && ListCount() > 0) {
-        SelectQuietly(0);
+    if (before < 0 && MovesSelection(event->key()) && ListCount() > 0) {
+        SelectQuietly(event->key() == Qt::Key_End ? ListCount() - 1 : 0);
         event->accept();
     } else {
         const QScopedValueRollback quiet(m_quiet, true);

@@ -56,6 +56,8 @@ public:
 Q_SIGNALS:
     void Click();
     void DblClick();
+    /// A double click where no row is.
+    void DblClickBesideRows();
     /// Character code of a key pressed: 27 Esc, 13 Enter, else the character's.
     void KeyPress(int character);
     void MouseMove(const QPoint &point);

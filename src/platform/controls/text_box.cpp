@@ -11,7 +11,21 @@ namespace controls
 TextBox::TextBox(QWidget *parent) : QLineEdit(parent)
 {
     UseWhiteBase(*this);
-    connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!DropHalfCharacter())
+            Q_EMIT Change();
+    });
+}
+
+bool TextBox::DropHalfCharacter()
+{
+    const qsizetype caret = cursorPosition();
+    const QString shown = text();
+    if (caret == 0 || shown.size() != maxLength() || !shown.at(caret - 1).isHighSurrogate() ||
+        (caret < shown.size() && shown.at(caret).isLowSurrogate()))
+        return false;
+    backspace();
+    return true;
 }
 
 void TextBox::SetText(const QString &value)

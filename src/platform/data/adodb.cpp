@@ -203,4 +203,6 @@ Hooks &EngineHooks()
 
 void ReleaseReads() { data::Session::ReleaseAllReads(); }
 
+void CommitGroups() { data::Session::CommitAllGroups(); }
+
 } // namespace ADODB

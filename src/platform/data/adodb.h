@@ -137,7 +137,7 @@ public:
     void Update();
     /// Deletes the current row and commits; the cursor stays at its place without a row.
     void Delete(int affect = adAffectCurrent);
-    /// Commits what the bulk writer holds back; call before anything waits for the user.
+    /// Commits what the bulk writer holds back.
     void Flush();
 
 private:
@@ -159,5 +159,9 @@ Hooks &EngineHooks();
 /// Gives up every read transaction of this process; each recordset resumes behind its place. Called
 /// before each turn of the event loop, so that others can write in it.
 void ReleaseReads();
+
+/// Commits what the bulk writers of this process hold back, before anything waits for the user. Raises
+/// nothing: the next operation of the bulk writer raises what failed.
+void CommitGroups();
 
 } // namespace ADODB

@@ -44,6 +44,7 @@ BulkWriter::~BulkWriter()
 
 qint64 BulkWriter::Add(const PendingRow &row)
 {
+    m_session->RaiseGroupFailure();
     if (!m_inGroup)
         BeginGroup();
     qint64 autoID = 0;
@@ -60,6 +61,7 @@ qint64 BulkWriter::Add(const PendingRow &row)
 
 void BulkWriter::Flush()
 {
+    m_session->RaiseGroupFailure();
     if (!m_inGroup)
         return;
     m_inGroup = false;

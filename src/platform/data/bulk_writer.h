@@ -22,7 +22,8 @@ public:
     BulkWriter(const BulkWriter &) = delete;
     BulkWriter &operator=(const BulkWriter &) = delete;
 
-    /// Stores a row and gives its AutoID. What fails leaves the rows before it committed.
+    /// Stores a row and gives its AutoID. What fails leaves the rows before it committed. Raises also what
+    /// became of a commit that somebody else asked for, as Flush and Finish do.
     qint64 Add(const PendingRow &row);
     /// Commits what is held back.
     void Flush();

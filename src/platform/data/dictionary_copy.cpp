@@ -1,7 +1,9 @@
 #include "platform/data/dictionary_file.h"
+#include "platform/data/file_flush.h"
 #include "platform/data/long_work.h"
 #include "platform/data/operation.h"
 #include "platform/data/schema.h"
+#include "platform/data/structure_check.h"
 #include "platform/files/drive_path.h"
 #include "platform/text/fold.h"
 
@@ -88,12 +90,17 @@ qint64 CountInOrder(Session &session)
 
 void Verify(Session &session)
 {
+    // On threads of their own, while this one walks the index. The file is nobody else's: that closing it
+    // elsewhere gives up the locks of the process does not matter.
+    StructureCheck structure(session.HostPath());
+    FileFlush flush(session.HostPath());
     const qint64 expected = session.NumberOf("SELECT count(*) FROM source.Dictionary NOT INDEXED");
     if (session.NumberOf("SELECT count(*) FROM main.Dictionary NOT INDEXED") != expected ||
         CountInOrder(session) != expected)
         RaiseBadCopy();
-    Prepared check = session.Prepare("PRAGMA main.quick_check(1)");
-    if (!check.Step() || check.Text(0) != "ok")
+    AwaitLongWork([&] { return structure.IsDone() && flush.IsDone(); });
+    flush.Finish();
+    if (!structure.Passed())
         RaiseBadCopy();
 }
 
@@ -101,7 +108,7 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
 {
     SetPageSize(session);
     // Until the marks are written the file is nothing that anyone opens, so it needs no journal
-    // on the disk and no flush but the last, which takes everything with it.
+    // on the disk, and no flush but that of the verification and the last one, which has little left.
     session.Run("PRAGMA journal_mode = MEMORY");
     session.Run("PRAGMA synchronous = OFF");
     Attach(session, sourcePath);
@@ -114,10 +121,11 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
 
 } // namespace
 
-void CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
+FileState CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
 {
     RequireNothingAt(targetPath);
     const bool withIndex = SourceHasIndex(sourcePath);
+    const FileState sourceState = StateOf(sourcePath);
     Session session(targetPath, targetDrivePath, Session::Access::Create);
     try {
         CopyInto(session, sourcePath, withIndex);
@@ -127,6 +135,7 @@ void CopyDictionary(const QString &sourcePath, const QString &targetPath, const 
         QFile::remove(targetPath);
         throw;
     }
+    return sourceState;
 }
 
 } // namespace data

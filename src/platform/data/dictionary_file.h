@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/data/file_state.h"
 #include "platform/data/session.h"
 
 #include <QString>
@@ -26,8 +27,9 @@ void RequireNothingAt(const QString &hostPath);
 
 /// Copies the rows of a dictionary file, with their AutoIDs and the AutoIncrement counter, to a new file
 /// (host paths), indexed and compact, and verifies rows, order and structure. The mark of a dictionary is
-/// written last and flushed. Raises as RequireNothingAt for the target; on any other failure nothing
-/// stays there.
-void CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath);
+/// written last and flushed. The state of the source of which this is the copy. Raises as RequireNothingAt
+/// for the target; on any other failure nothing stays there.
+FileState CopyDictionary(const QString &sourcePath, const QString &targetPath,
+                         const QString &targetDrivePath);
 
 } // namespace data

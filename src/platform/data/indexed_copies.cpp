@@ -4,7 +4,6 @@
 #include "platform/data/operation.h"
 #include "platform/files/drive_path.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -13,10 +12,9 @@
 namespace
 {
 
-/// A state of a file: a copy stands for one of them only.
-struct FileState {
-    qint64 size = 0;
-    QDateTime modified;
+/// A copy stands for one state of its file only.
+struct IndexedCopy {
+    data::FileState original;
     QString copy;
 };
 
@@ -25,22 +23,21 @@ struct FileState {
 QString data::IndexedCopyOf(const QString &hostPath)
 {
     static const QTemporaryDir folder;
-    static QHash<QString, FileState> copies;
+    static QHash<QString, IndexedCopy> copies;
     static int made = 0;
 
     if (!folder.isValid())
         throw RuntimeError(RuntimeError::CannotOpenDatabase);
-    const QFileInfo info(hostPath);
-    FileState &known = copies[info.canonicalFilePath()];
-    if (!known.copy.isEmpty() && known.size == info.size() && known.modified == info.lastModified())
+    const QString original = QFileInfo(hostPath).canonicalFilePath();
+    IndexedCopy &known = copies[original];
+    if (!known.copy.isEmpty() && known.original == StateOf(original))
         return known.copy;
     if (!known.copy.isEmpty())
         QFile::remove(known.copy);
     known.copy.clear();
 
     QString copy = folder.filePath(QStringLiteral("%1.mdb").arg(++made));
-    const FileState state{info.size(), info.lastModified(), copy};
-    CopyDictionary(hostPath, copy, files::DrivePath(copy));
-    copies[info.canonicalFilePath()] = state;
+    const FileState state = CopyDictionary(hostPath, copy, files::DrivePath(copy));
+    copies[original] = {state, copy};
     return copy;
 }

@@ -6,14 +6,30 @@
 #include "platform/files/drive_path.h"
 #include "platform/files/file_operations.h"
 
+#include <QFileInfo>
+
+using data::StateOf;
+
 void JRO::JetEngine::CompactDatabase(const QString &sourceConnection, const QString &destConnection)
 {
     data::Operation(data::kJetEngineSource, "CompactDatabase", [&] {
-        const QString source = files::HostPath(data::ParseConnectionString(sourceConnection).path);
+        m_sourcePath = files::HostPath(data::ParseConnectionString(sourceConnection).path);
         const QString target = data::ParseConnectionString(destConnection).path;
-        const QString targetPath = files::HostPath(target);
-        data::RequireNothingAt(targetPath);
+        m_copyPath = files::HostPath(target);
+        data::RequireNothingAt(m_copyPath);
         files::RequireWritable(target);
-        data::CopyDictionary(source, targetPath, target);
+        m_source = data::CopyDictionary(m_sourcePath, m_copyPath, target);
+        m_copy = StateOf(m_copyPath);
     });
+}
+
+void JRO::JetEngine::RequireUnchanged() const
+{
+    // A journal is a write to the source that is under way, or that was cut short.
+    const bool isBeingWritten =
+        QFileInfo::exists(QFileInfo(m_sourcePath).canonicalFilePath() + QStringLiteral("-journal"));
+    if (isBeingWritten || StateOf(m_sourcePath) != m_source || StateOf(m_copyPath) != m_copy)
+        throw RuntimeError(
+            RuntimeError::CannotOpenDatabase, QString::fromLatin1(data::kJetEngineSource),
+            QStringLiteral("最適化の間に辞書データベースが他のプログラムによって変更されました。"));
 }

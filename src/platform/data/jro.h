@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/data/file_state.h"
+
 #include <QString>
 
 namespace JRO
@@ -13,6 +15,15 @@ public:
     /// the second and verifies it (rows, order, structure). Never touches the source. On failure
     /// nothing stays at the destination. Raises -2147467259, 61, 70.
     void CompactDatabase(const QString &sourceConnection, const QString &destConnection);
+
+    /// Raises -2147467259 unless source and copy of the last compaction still are what they were: what
+    /// somebody wrote to the source since stands in no copy. To be asked before the one takes the place
+    /// of the other.
+    void RequireUnchanged() const;
+
+private:
+    QString m_sourcePath, m_copyPath; ///< host paths
+    data::FileState m_source, m_copy;
 };
 
 } // namespace JRO

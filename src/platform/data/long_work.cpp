@@ -5,6 +5,7 @@
 #include <chrono>
 #include <exception>
 #include <sqlite3.h>
+#include <thread>
 
 namespace data
 {
@@ -74,6 +75,21 @@ void DoLongWork(Session &session, const std::function<void()> &work)
         if (watch.HookFailure())
             std::rethrow_exception(watch.HookFailure());
         throw;
+    }
+}
+
+void AwaitLongWork(const std::function<bool()> &isDone)
+{
+    constexpr std::chrono::milliseconds nap{1};
+    Clock::time_point next = Clock::now() + kProgressInterval;
+    while (!isDone()) {
+        if (Clock::now() < next) {
+            std::this_thread::sleep_for(nap);
+            continue;
+        }
+        if (ADODB::EngineHooks().progress)
+            ADODB::EngineHooks().progress();
+        next = Clock::now() + kProgressInterval;
     }
 }
 

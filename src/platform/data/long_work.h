@@ -11,4 +11,8 @@ namespace data
 /// hook about every 50 ms within it. What the progress hook raises ends the work and is passed on.
 void DoLongWork(Session &session, const std::function<void()> &work);
 
+/// Within long work, waits for what another thread does: the progress hook about every 50 ms until the
+/// condition holds. What the hook raises ends the waiting and is passed on.
+void AwaitLongWork(const std::function<bool()> &isDone);
+
 } // namespace data

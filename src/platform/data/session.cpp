@@ -211,7 +211,30 @@ void Session::CommitGroupsOfOthers()
     const std::vector<Session *> sessions = OpenSessions();
     for (Session *session : sessions)
         if (session != this && session->m_commitGroup && session->m_hostPath == m_hostPath)
-            session->m_commitGroup();
+            session->CommitGroupForOthers();
+}
+
+void Session::CommitAllGroups()
+{
+    const std::vector<Session *> sessions = OpenSessions();
+    for (Session *session : sessions)
+        if (session->m_commitGroup)
+            session->CommitGroupForOthers();
+}
+
+void Session::CommitGroupForOthers()
+{
+    try {
+        m_commitGroup();
+    } catch (const RuntimeError &failure) {
+        m_groupFailure = failure;
+    }
+}
+
+void Session::RaiseGroupFailure()
+{
+    if (const std::optional<RuntimeError> failure = std::exchange(m_groupFailure, std::nullopt))
+        throw RuntimeError(*failure);
 }
 
 void Session::ResetStatements()

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/data/prepared.h"
+#include "platform/failure/runtime_error.h"
 
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace data
 {
@@ -67,16 +69,21 @@ public:
 
     /// What commits the group that a bulk writer holds on this session; empty for none.
     void SetGroupCommit(std::function<void()> commit) { m_commitGroup = std::move(commit); }
+    /// Raises, once, what became of a group that was committed for others, who had no part in it.
+    void RaiseGroupFailure();
     /// While it is set, ReleaseRead leaves the session alone: long work stands in one statement.
     void SetInLongWork(bool inWork) { m_inLongWork = inWork; }
 
     /// ReleaseRead of all sessions.
     static void ReleaseAllReads();
+    /// Commits the groups of all sessions; what fails is kept for RaiseGroupFailure.
+    static void CommitAllGroups();
 
 private:
     static int WaitForLock(void *session, int tries);
     bool OthersHold() const;
     void CommitGroupsOfOthers();
+    void CommitGroupForOthers();
     void ResetStatements();
 
     QString m_hostPath;
@@ -90,6 +97,7 @@ private:
     bool m_inLongWork = false;
     int m_waited = 0; ///< milliseconds that the operation in progress has waited for locks
     std::function<void()> m_commitGroup;
+    std::optional<RuntimeError> m_groupFailure;
 };
 
 } // namespace data

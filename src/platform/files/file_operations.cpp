@@ -44,6 +44,15 @@ std::filesystem::space_info SpaceAt(const QString &path)
 
 bool files::Exists(const QString &path) { return host::IsFile(HostPathOrEmpty(path)); }
 
+bool files::IsSameFile(const QString &path, const QString &other)
+{
+    const auto native = [](const QString &drivePath) {
+        return std::filesystem::path(QFile::encodeName(HostPathOrEmpty(drivePath)).toStdString());
+    };
+    std::error_code failure;
+    return std::filesystem::equivalent(native(path), native(other), failure) && !failure;
+}
+
 qint64 files::Length(const QString &path) { return RequireFile(path).size(); }
 
 QDateTime files::Modified(const QString &path) { return RequireFile(path).lastModified(); }
@@ -64,10 +73,10 @@ void files::DeleteIfThere(const QString &path)
         Delete(path);
 }
 
-void files::Copy(const QString &from, const QString &to)
+void files::Copy(const QString &from, const QString &to, const std::function<void()> &yield)
 {
     faults::Point("copy");
-    host::Copy(HostPath(from), HostPath(to), host::Target::MustBeFree);
+    host::Copy(HostPath(from), HostPath(to), host::Target::MustBeFree, yield);
 }
 
 void files::Rename(const QString &from, const QString &to)
@@ -76,17 +85,20 @@ void files::Rename(const QString &from, const QString &to)
     host::Move(RequireFile(from).filePath(), HostPath(to), host::Target::MustBeFree);
 }
 
-void files::ReplaceByFile(const QString &path, const QString &from)
+void files::ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield)
 {
-    const QString target = HostPath(path);
+    QString target = HostPath(path);
     const bool replaces = host::IsFile(target);
     if (replaces)
         faults::Point("delete");
     faults::Point("rename");
     const QString source = RequireFile(from).filePath();
-    if (replaces)
+    if (replaces) {
         host::RequireWritable(target);
-    host::Move(source, target, host::Target::IsReplaced);
+        target = QFileInfo(target).canonicalFilePath();
+        host::TakePermissions(source, target);
+    }
+    host::Move(source, target, host::Target::IsReplaced, yield);
 }
 
 void files::Replace(const QString &path, const QByteArray &content)

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 /// Operations on whole files. All paths are drive paths. Failures are raised with the numbers 52
 /// (bad name), 53 (not found), 57 (device), 58 (exists), 61 (disk full), 70 (permission denied)
@@ -13,6 +14,9 @@ namespace files
 
 /// Whether a file (not a folder) stands there; never raises.
 bool Exists(const QString &path);
+
+/// Whether both paths name one file that exists; never raises.
+bool IsSameFile(const QString &path, const QString &other);
 
 /// Length in bytes; raises 53.
 qint64 Length(const QString &path);
@@ -26,8 +30,9 @@ void Delete(const QString &path);
 /// Deletes a file if it is there.
 void DeleteIfThere(const QString &path);
 
-/// Copies a file, flushed to the disk; raises 58 when the target exists.
-void Copy(const QString &from, const QString &to);
+/// Copies a file, flushed to the disk; raises 58 when the target exists. `yield` is called after each
+/// piece copied; what it raises ends the copy, of which nothing stays.
+void Copy(const QString &from, const QString &to, const std::function<void()> &yield = {});
 
 /// Renames a file; across file systems it copies beside the target, flushes, renames and deletes.
 /// Raises 58 when the target exists.
@@ -38,9 +43,10 @@ void Rename(const QString &from, const QString &to);
 void Replace(const QString &path, const QByteArray &content);
 
 /// Puts the file `from` in the place of the file `path`, which need not exist: one step within a file
-/// system; across file systems `from` is copied beside the target, flushed and renamed, then deleted.
-/// A crash leaves the old or the new file whole.
-void ReplaceByFile(const QString &path, const QString &from);
+/// system; across file systems `from` is copied beside the target (`yield` as in Copy), flushed and
+/// renamed, then deleted. A symbolic link stays and leads to the new file, and permissions stay those of
+/// the old one. A crash leaves the old or the new file whole.
+void ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield = {});
 
 /// The whole content; raises 53.
 QByteArray ReadAll(const QString &path);

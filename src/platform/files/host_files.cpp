@@ -7,8 +7,10 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
+#include <future>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -99,7 +101,8 @@ void OpenBeside(QTemporaryFile &file, const QString &target)
         Raise(file, errno, target);
 }
 
-void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QString &to)
+void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QString &to,
+                 const std::function<void()> &yield)
 {
     constexpr qint64 kChunk = qint64{1} << 20;
     while (true) {
@@ -111,7 +114,23 @@ void CopyContent(QFile &source, QFileDevice &copy, const QString &from, const QS
             return;
         }
         WriteAll(copy, bytes, to);
+        if (yield)
+            yield();
     }
+}
+
+/// Writes the file through to the disk: errno, or 0. With a `yield` on a thread of its own, for it may
+/// take seconds.
+int Flush(int handle, const std::function<void()> &yield)
+{
+    const auto flush = [handle] { return ::fsync(handle) == 0 ? 0 : errno; };
+    if (!yield)
+        return flush();
+    std::future<int> error = std::async(std::launch::async, flush);
+    constexpr std::chrono::milliseconds interval{10};
+    while (error.wait_for(interval) != std::future_status::ready)
+        yield();
+    return error.get();
 }
 
 void SetTimeAndPermissions(const QFile &source, const QFileDevice &copy)
@@ -192,7 +211,8 @@ void files::host::Open(QFile &file, const QString &path, QIODevice::OpenMode mod
         Raise(file, errno, path);
 }
 
-void files::host::Move(const QString &from, const QString &to, Target target)
+void files::host::Move(const QString &from, const QString &to, Target target,
+                       const std::function<void()> &yield)
 {
     RequireName(to);
     RequireWritable(from);
@@ -203,12 +223,13 @@ void files::host::Move(const QString &from, const QString &to, Target target)
         return;
     if (error != EXDEV)
         Raise(error, error == ENOENT ? from : to);
-    Copy(from, to, target);
+    Copy(from, to, target, yield);
     if (::unlink(QFile::encodeName(from).constData()) != 0)
         Raise(errno, from);
 }
 
-void files::host::Copy(const QString &from, const QString &to, Target target)
+void files::host::Copy(const QString &from, const QString &to, Target target,
+                       const std::function<void()> &yield)
 {
     RequireName(to);
     QFile source;
@@ -218,14 +239,24 @@ void files::host::Copy(const QString &from, const QString &to, Target target)
         throw RuntimeError(RuntimeError::FileExists);
     QTemporaryFile copy;
     OpenBeside(copy, to);
-    CopyContent(source, copy, from, to);
+    CopyContent(source, copy, from, to, yield);
     SetTimeAndPermissions(source, copy);
-    if (::fsync(copy.handle()) != 0)
-        Raise(errno, to);
+    if (const int error = Flush(copy.handle(), yield); error != 0)
+        Raise(error, to);
     const int error = RenameFile(copy.fileName(), to, target);
     if (error != 0)
         Raise(error, to);
     copy.setAutoRemove(false);
+}
+
+void files::host::TakePermissions(const QString &path, const QString &from)
+{
+    struct stat state {
+    };
+    if (::stat(QFile::encodeName(from).constData(), &state) != 0)
+        return;
+    if (::chmod(QFile::encodeName(path).constData(), state.st_mode & 0777) != 0)
+        errno = 0;
 }
 
 void files::host::Replace(const QString &path, const QByteArray &content)

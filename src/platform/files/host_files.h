@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <functional>
 
 /// What the operations on drive paths stand on: the same on host paths.
 namespace files::host
@@ -38,11 +39,15 @@ enum class Target { MustBeFree, IsReplaced };
 
 /// Moves a file within one file system or from one to another. From another, it is copied beside
 /// the target, flushed and renamed, so that the target is never there in part.
-void Move(const QString &from, const QString &to, Target target);
+void Move(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {});
 
 /// Copies a file beside the target, flushes it and gives it its name. Time and permissions are the
-/// source's; the owner may always write the copy.
-void Copy(const QString &from, const QString &to, Target target);
+/// source's; the owner may always write the copy. `yield`, unless it is empty, is called after each
+/// piece.
+void Copy(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {});
+
+/// Gives a file the permissions of another; leaves it as it is on a file system that has none.
+void TakePermissions(const QString &path, const QString &from);
 
 /// Puts a file with the content at the path, whole or not at all.
 void Replace(const QString &path, const QByteArray &content);

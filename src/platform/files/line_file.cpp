@@ -65,14 +65,14 @@ qsizetype FindLineEnd(QByteArrayView bytes, qsizetype from, Encoding encoding)
     return end;
 }
 
-QString DecodeUnicode(const QByteArray &bytes, QStringConverter::Encoding encoding)
+QString DecodeUnicode(QByteArrayView bytes, QStringConverter::Encoding encoding)
 {
     // The file's byte order mark is gone; the same code at the head of a later line is text.
     QStringDecoder decoder(encoding, QStringConverter::Flag::ConvertInitialBom);
     return decoder(bytes);
 }
 
-QString DecodeLine(const QByteArray &bytes, Encoding encoding)
+QString DecodeLine(QByteArrayView bytes, Encoding encoding)
 {
     switch (encoding) {
     case Encoding::Utf8: return DecodeUnicode(bytes, QStringConverter::Utf8);
@@ -83,9 +83,36 @@ QString DecodeLine(const QByteArray &bytes, Encoding encoding)
     return text::Decode(bytes);
 }
 
+QByteArrayView LineEndIn(Encoding encoding)
+{
+    switch (encoding) {
+    case Encoding::Utf16LittleEndian: return {"\r\0\n\0", 4};
+    case Encoding::Utf16BigEndian: return {"\0\r\0\n", 4};
+    default: return {"\r\n", 2};
+    }
+}
+
+/// Bytes that the blanks in front of a text take, the text read from `begin` to `end`.
+template <typename Iterator> qsizetype BlankBytes(Iterator begin, Iterator end, Encoding encoding)
+{
+    constexpr QChar kBlank(u' ');
+    constexpr QChar kWideBlank(u'\u3000');
+    qsizetype bytes = 0;
+    for (Iterator at = begin; at != end && (*at == kBlank || *at == kWideBlank); ++at) {
+        if (IsUtf16(encoding))
+            bytes += 2;
+        else if (*at == kBlank)
+            bytes += 1;
+        else
+            bytes += encoding == Encoding::Utf8 ? 3 : 2;
+    }
+    return bytes;
+}
+
 } // namespace
 
-files::LineWriter::LineWriter(const QString &path, Mode mode)
+files::LineWriter::LineWriter(const QString &path, Mode mode, Encoding encoding)
+    : m_lineEnd(LineEndIn(encoding))
 {
     host::Open(m_file, HostPath(path),
                mode == Mode::Append ? QIODevice::WriteOnly | QIODevice::Append
@@ -94,11 +121,19 @@ files::LineWriter::LineWriter(const QString &path, Mode mode)
 
 files::LineWriter::~LineWriter() = default;
 
-void files::LineWriter::WriteLine(const QByteArray &bytes)
+void files::LineWriter::WriteLine(QByteArrayView bytes)
 {
     faults::Point("write");
     errno = 0;
-    if (m_file.write(bytes) != bytes.size() || m_file.write("\r\n", 2) != 2)
+    if (m_file.write(bytes.data(), bytes.size()) != bytes.size() ||
+        m_file.write(m_lineEnd.data(), m_lineEnd.size()) != m_lineEnd.size())
+        host::Raise(m_file, errno, m_file.fileName());
+}
+
+void files::LineWriter::Flush()
+{
+    errno = 0;
+    if (!m_file.flush())
         host::Raise(m_file, errno, m_file.fileName());
 }
 
@@ -138,9 +173,25 @@ bool files::LineReader::Fill()
     return true;
 }
 
-bool files::LineReader::AtEnd() { return m_position >= m_buffer.size() && !Fill(); }
+void files::LineReader::SkipLineFeed()
+{
+    m_behindReturn = false;
+    const qsizetype unit = UnitSize(m_encoding);
+    while (m_position + unit > m_buffer.size())
+        if (!Fill())
+            return;
+    if (UnitAt(m_buffer, m_position, m_encoding) == u'\n')
+        m_position += unit;
+}
 
-QByteArray files::LineReader::ReadRawLine()
+bool files::LineReader::AtEnd()
+{
+    if (m_behindReturn)
+        SkipLineFeed();
+    return m_position >= m_buffer.size() && !Fill();
+}
+
+QByteArrayView files::LineReader::NextLine()
 {
     faults::Point("read");
     if (AtEnd())
@@ -153,20 +204,26 @@ QByteArray files::LineReader::ReadRawLine()
         if (!Fill())
             break;
     if (length + unit > rest().size()) {
-        QByteArray line = rest().toByteArray();
+        m_line = rest();
         m_position = m_buffer.size();
-        return line;
+        return m_line;
     }
-    QByteArray line = rest().first(length).toByteArray();
-    const bool isReturn = UnitAt(rest(), length, m_encoding) == u'\r';
+    m_line = rest().first(length);
+    m_behindReturn = UnitAt(rest(), length, m_encoding) == u'\r';
     m_position += length + unit;
-    if (isReturn && (m_position + unit <= m_buffer.size() || Fill()) &&
-        m_position + unit <= m_buffer.size() && UnitAt(rest(), 0, m_encoding) == u'\n')
-        m_position += unit;
-    return line;
+    return m_line;
 }
 
-QString files::LineReader::ReadLine() { return DecodeLine(ReadRawLine(), m_encoding); }
+QString files::LineReader::ReadLine() { return DecodeLine(NextLine(), m_encoding); }
+
+QByteArrayView files::TrimmedRaw(QByteArrayView bytes, QStringView line, Encoding encoding)
+{
+    const qsizetype front = BlankBytes(line.begin(), line.end(), encoding);
+    // A text of blanks alone has no other end, and half a code unit at the end is no blank.
+    if (front >= bytes.size() || (IsUtf16(encoding) && bytes.size() % 2 != 0))
+        return bytes.sliced(std::min(front, bytes.size()));
+    return bytes.sliced(front).chopped(BlankBytes(line.rbegin(), line.rend(), encoding));
+}
 
 QStringList files::ReadSettingsLines(const QString &path)
 {

@@ -13,7 +13,7 @@ int pointerNow = host::PointerDefault;
 int asides = 0;
 bool overridden = false;
 int standInScreenWidth = 0;
-std::function<void(const QString &, int)> helpViewer;
+host::HelpViewer helpViewer;
 
 void ShowPointer()
 {
@@ -75,10 +75,12 @@ int host::ScreenHeight() { return ScreenSize().height(); }
 
 void host::SetScreenWidth(int pixels) { standInScreenWidth = pixels; }
 
-void host::SetHelpViewer(std::function<void(const QString &, int)> viewer) { helpViewer = std::move(viewer); }
+bool host::NobodyIsThere() { return QGuiApplication::platformName() == QLatin1String("offscreen"); }
 
-void host::WinHelp(const QString &helpFile, int command)
+void host::SetHelpViewer(HelpViewer viewer) { helpViewer = std::move(viewer); }
+
+void host::WinHelp(const QString &helpFile, int command, const QString &topic)
 {
     if (const auto viewer = helpViewer)
-        viewer(helpFile, command);
+        viewer(helpFile, command, topic);
 }

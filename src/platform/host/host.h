@@ -81,6 +81,10 @@ private:
     bool m_heldElsewhere = false;
 };
 
+/// Whether the desktop's own dialogs, those for printers, can be answered by nobody, for the windows
+/// are on no screen.
+bool NobodyIsThere();
+
 /// Facts of the machine for the version dialog.
 struct SystemFacts {
     QString version;   ///< kernel or system version "major.minor"
@@ -94,10 +98,12 @@ SystemFacts Facts();
 /// Facts that stand in for the machine's; nullptr for the truth.
 void SetFacts(const SystemFacts *facts);
 
-/// The help viewer: WinHelp's commands.
-enum HelpCommand : int { HelpQuit = 2, HelpFinder = 11 };
+/// The help viewer: WinHelp's commands. HelpContext shows a topic.
+enum HelpCommand : int { HelpContext = 1, HelpQuit = 2, HelpFinder = 11 };
+using HelpViewer = std::function<void(const QString &helpFile, int command, const QString &topic)>;
 /// Set by the part of the program that shows help; called by WinHelp. Empty: nothing happens.
-void SetHelpViewer(std::function<void(const QString &helpFile, int command)> viewer);
-void WinHelp(const QString &helpFile, int command);
+void SetHelpViewer(HelpViewer viewer);
+/// The help file is a drive path. The topic goes with HelpContext alone.
+void WinHelp(const QString &helpFile, int command, const QString &topic = {});
 
 } // namespace host

@@ -311,6 +311,16 @@ int CompareUtf8(std::string_view left, std::string_view right)
 
 bool Same(QStringView left, QStringView right) { return Compare(left, right) == 0; }
 
+qsizetype MatchedLength(QStringView text, std::u32string_view folded)
+{
+    const Tables &tables = SharedTables();
+    Utf16Reader reader(text);
+    for (const char32_t wanted : folded)
+        if (reader.AtEnd() || NextFolded(reader, tables) != wanted)
+            return -1;
+    return reader.Position();
+}
+
 Match FindMatch(QStringView haystack, QStringView needle, qsizetype from)
 {
     if (from < 1)
@@ -322,12 +332,9 @@ Match FindMatch(QStringView haystack, QStringView needle, qsizetype from)
     const Tables &tables = SharedTables();
     const std::u32string wanted = Fold(needle).folded;
     for (Utf16Reader start(haystack.sliced(from - 1)); !start.AtEnd(); NextFolded(start, tables)) {
-        Utf16Reader reader = start;
-        size_t matched = 0;
-        while (matched < wanted.size() && !reader.AtEnd() && NextFolded(reader, tables) == wanted[matched])
-            ++matched;
-        if (matched == wanted.size())
-            return {from + start.Position(), reader.Position() - start.Position()};
+        const qsizetype length = MatchedLength(haystack.sliced(from - 1 + start.Position()), wanted);
+        if (length >= 0)
+            return {from + start.Position(), length};
     }
     return {};
 }

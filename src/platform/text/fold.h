@@ -54,6 +54,9 @@ int CompareUtf8(std::string_view left, std::string_view right);
 /// Whether two texts are the same to text comparison.
 bool Same(QStringView left, QStringView right);
 
+/// How many UTF-16 units at the beginning of a text fold to `folded`; -1 where it begins otherwise.
+qsizetype MatchedLength(QStringView text, std::u32string_view folded);
+
 /// Where a text was found: position from 1 in UTF-16 units, 0 when it was not, and the length of
 /// what matched in the text searched (it differs from the needle's for half-width voiced pairs).
 struct Match {
@@ -65,7 +68,7 @@ struct Match {
 /// below 1). An empty needle matches at `from` with length 0, unless that lies behind the end.
 Match FindMatch(QStringView haystack, QStringView needle, qsizetype from = 1);
 
-/// The position of FindMatch.
+/// The position of FindMatch. For many searches of one text see platform/text/needle.h.
 qsizetype TextFind(QStringView haystack, QStringView needle, qsizetype from = 1);
 
 } // namespace text

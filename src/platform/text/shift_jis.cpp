@@ -228,29 +228,29 @@ QString Decode(QByteArrayView bytes)
     QChar *const begin = text.data();
     QChar *out = begin;
     const qsizetype size = bytes.size();
+    const auto *const in = reinterpret_cast<const uchar *>(bytes.data());
     for (qsizetype at = 0; at < size;) {
-        const int byte = static_cast<uchar>(bytes[at++]);
-        if (IsAscii(byte)) {
-            *out++ = QChar(byte);
+        const size_t byte = in[at++];
+        if (IsAscii(static_cast<int>(byte))) {
+            *out++ = QChar(static_cast<char16_t>(byte));
             continue;
         }
-        if (!IsLead(byte)) {
-            const char16_t character = tables.character[static_cast<size_t>(byte)];
-            *out++ = character == kNoCharacter ? kUndecodable : character;
-            continue;
-        }
-        const int trail = at < size ? static_cast<uchar>(bytes[at]) : 0;
-        const char16_t character =
-            tables.character[static_cast<size_t>(byte) * kByteValues + static_cast<size_t>(trail)];
-        if (character != kNoCharacter) {
-            *out++ = character;
+        // Codes that begin with no lead byte have no character in the table.
+        const size_t trail = at < size ? in[at] : 0;
+        if (const char16_t pair = tables.character[byte * kByteValues + trail]; pair != kNoCharacter) {
+            *out++ = pair;
             ++at;
+            continue;
+        }
+        if (!IsLead(static_cast<int>(byte))) {
+            const char16_t single = tables.character[byte];
+            *out++ = single == kNoCharacter ? kUndecodable : single;
             continue;
         }
         *out++ = kUndecodable;
         // The trail of a code that is not assigned goes with its lead, or what follows would be read
         // out of step; a trail that is ASCII is more likely to be just that.
-        if (IsTrail(trail) && !IsAscii(trail)) {
+        if (IsTrail(static_cast<int>(trail)) && !IsAscii(static_cast<int>(trail))) {
             *out++ = kUndecodable;
             ++at;
         }

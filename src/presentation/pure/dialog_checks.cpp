@@ -25,16 +25,11 @@ std::optional<Notice> DictionaryNotice(DictionaryDialog dialog, const QString &p
 
 std::optional<Notice> CompositeNotice(std::uint8_t mode)
 {
-    QString name;
-    switch (mode) {
-    case ModeIncremental: name = QStringLiteral("インクリメンタル検索"); break;
-    case ModeMeaning: name = QStringLiteral("訳語項目中の文字列検索"); break;
-    case ModeExample: name = QStringLiteral("用例項目中の文字列検索"); break;
-    default: return std::nullopt;
-    }
+    if (mode != ModeIncremental && mode != ModeMeaning && mode != ModeExample)
+        return std::nullopt;
     return Notice{
         QStringLiteral("複合検索使用不可検索モード"),
-        QStringLiteral("複合検索は現在選択中の") + name +
+        QStringLiteral("複合検索は現在選択中の") + SearchModeName(mode) +
             QStringLiteral("モードでは使用できません！\r\n"
                            "前方・中間・後方一致検索ならびにワイルドカード検索時にのみ使用可能です。")};
 }

@@ -24,7 +24,9 @@ ResultKey DecodeResult(const QByteArray &record)
     const QByteArray field = record.first(kWordLength);
     ResultKey key;
     key.word = text::FieldText(text::DecodeRecord(field));
-    key.autoID = record.sliced(kWordLength, kNumberLength).toInt();
+    key.autoID = ResultNumber(record);
     key.wordMayBeCut = !text::FieldText(text::DecodeRecord(field.last(kLongestCharacter))).isEmpty();
     return key;
 }
+
+qint32 ResultNumber(const QByteArray &record) { return record.sliced(kWordLength, kNumberLength).toInt(); }

@@ -20,3 +20,5 @@ inline constexpr int kResultRecordLength = 520;
 QByteArray EncodeResult(const QString &word, qint32 autoID);
 /// Reads such a record; a number that is none counts as 0.
 ResultKey DecodeResult(const QByteArray &record);
+/// The number alone.
+qint32 ResultNumber(const QByteArray &record);

@@ -13,7 +13,12 @@ const search = () => {
 const shown = () => (page().match(/訳\d/g) || []).map(found => Number(found.slice(1)));
 search();
 
-doubleClick("frmFind.List1", 1);
+// A double click opens the record in the editor.
+const openRow = row => {
+    doubleClick("frmFind.List1", row);
+    closeForm("frmMstmnt");
+};
+openRow(1);
 check([state("CurrentWord"), state("CurrentAutoID"), state("EditOpenMode")], ["w2", 2, 1], "a double click takes the record");
 check(shown(), [2, 3], "behind its click");
 check(state("ViewConnection"), false, "nothing stays open");
@@ -34,7 +39,7 @@ check([state("CurrentWord"), state("CurrentAutoID")], ["w2", 2], "the record tak
 mouseDown("frmFind.Picture15");
 mouseDown("frmFind.Picture14");
 check(items("frmFind.List1"), ["w1", "w2", "w3"], "the list keeps the stored word, so that rows stay in step");
-doubleClick("frmFind.List1", 2);
+openRow(2);
 check([state("CurrentWord"), state("CurrentAutoID")], ["w3", 3], "the row behind it is the right one");
 check(state("HitCount"), 4, "the count stays");
 search();
@@ -43,7 +48,7 @@ check(items("frmFind.List1"), ["w1", "w3", "w4"], "the next search knows");
 // In the incremental search.
 menu("mnuIncSrch");
 typeText("frmFind.txtFind", "w");
-doubleClick("frmFind.List1", 1);
+openRow(1);
 check(["CurrentWord", "CurrentAutoID", "SavedIncSearchText", "EditOpenMode"].map(state), ["w3", 3, "w3", 1], "takes the record");
 menu("mnuSrchFromWord");
 setText("frmFind.txtFind", "w");

@@ -42,17 +42,15 @@ for (const [mode, name] of modes)
 menu("mnuIncSrch");
 check(six.map(picture => visible(picture)), [false, false, false, false, true, true], "the mode brings its pictures back");
 
-// Where the builder would open it is not to be chosen yet.
-for (const mode of ["mnuPreSrch", "mnuMidSrch", "mnuPostSrch", "mnuWildCard"]) {
-    menu(mode);
-    menu("mnuAddSearchCondition");
-    mouseDown("frmFind.Picture16");
-    check(boxes(), [], mode + ": nothing is said");
-    check(openForms(), ["frmFind"], mode + ": and nothing opens");
-}
-// A change of dictionary is a change of mode too.
-choose("frmFind.Combo1", 0);
-check([enabled("mnuAddSearchCondition"), enabled("frmFind.Picture16")], [true, true], "back in the incremental mode");
+// In the modes that search headwords the builder opens.
+for (const mode of ["mnuPreSrch", "mnuMidSrch", "mnuPostSrch", "mnuWildCard"])
+    for (const [way, ask] of builder) {
+        menu(mode);
+        ask();
+        check([boxes(), openForms()], [[], ["frmFind", "frmAddCondition"]], mode + ": opens by the " + way);
+        press("frmAddCondition", "Esc");
+    }
+menu("mnuIncSrch");
 
 // Reading aloud.
 for (const time of ["the first time", "again"]) {

@@ -8,10 +8,10 @@ start();
 // [name, caption, enabled, checked]
 const entries = [
     ["mnufile", "ファイル(&F)", true, false],
-    ["mnuFileCreate", "辞書データベースの新規作成(&N)...", false, false],
-    ["mnuOpen", "辞書データベースを開く(&O)...", false, false],
-    ["mnuCnv", "データ変換(&R)...", false, false],
-    ["mnuCompress", "辞書データベースの最適化(&C)...", false, false],
+    ["mnuFileCreate", "辞書データベースの新規作成(&N)...", true, false],
+    ["mnuOpen", "辞書データベースを開く(&O)...", true, false],
+    ["mnuCnv", "データ変換(&R)...", true, false],
+    ["mnuCompress", "辞書データベースの最適化(&C)...", true, false],
     ["mnuPageSettings", "ページ設定(&U)...", true, false],
     ["mnuPrint", "印刷(&P)...", true, false],
     ["mnuPrintView", "印刷プレビュー(&V)...", true, false],
@@ -33,24 +33,24 @@ const entries = [
     ["mnuMidSrch", "中間一致検索(&M)", true, false],
     ["mnuPostSrch", "後方一致検索(&O)", true, false],
     ["mnuWildCard", "ワイルドカード検索(&W)", true, false],
-    ["mnuWildCardBuilder", "ワイルドカードビルダ(&B)...", false, false],
+    ["mnuWildCardBuilder", "ワイルドカードビルダ(&B)...", true, false],
     ["mnuAddSearchCondition", "複合検索ビルダ(&K)...", true, false],
     ["mnuTxtInMeaning", "訳語項目中の文字列検索(&D)", true, false],
     ["mnuTxtInExample", "用例項目中の文字列検索(&E)", true, false],
-    ["mnuHistory", "マイ ワードブック(&Y)...", false, false],
+    ["mnuHistory", "マイ ワードブック(&Y)...", true, false],
     ["mnuSrchWebSite", "ウエブサイトの検索(&S)", false, false],
     ["mntKindOfSrch", "検索対象(&R)", true, false],
     ["mnuSrchFromAll", "単語と熟語の両方を検索(&B)", true, true],
     ["mnuSrchFromWord", "単語を検索(&W)", true, false],
     ["mnuSrchFromPhrase", "熟語を検索(&P)", true, false],
     ["mnuTool", "ツール(&T)", true, false],
-    ["mnuDicAdd", "辞書設定(&A)...", false, false],
+    ["mnuDicAdd", "辞書設定(&A)...", true, false],
     ["mnuColorSel", "フォントと色の設定(&F)...", true, false],
-    ["mnuListSettings", "検索結果のリスト件数設定(&L)...", false, false],
+    ["mnuListSettings", "検索結果のリスト件数設定(&L)...", true, false],
     ["mnuSpeakingSetting", "キャラクタの設定(&S)...", false, false],
     ["mnuHelp", "ヘルプ(&H)", true, false],
-    ["mnuTopicSearch", "トピックの検索(&H)", false, false],
-    ["mnuAbout", "バージョン情報(&A)...", false, false],
+    ["mnuTopicSearch", "トピックの検索(&H)", true, false],
+    ["mnuAbout", "バージョン情報(&A)...", true, false],
     ["mnuSpeakKeyWord", "見出し語の英文発音", false, false],
     ["mnuSpeakSelectedArea", "選択範囲の英文発音", false, false],
     ["mCancel", "キャンセル", true, false],
@@ -67,8 +67,8 @@ const pictures = [
     ["5", "ワイルドカード検索", true],
     ["6", "訳語項目中の文字列検索", true],
     ["7", "用例項目中の文字列検索", true],
-    ["8", "ワイルドカードビルダ", false],
-    ["9", "マイ ワードブック", false],
+    ["8", "ワイルドカードビルダ", true],
+    ["9", "マイ ワードブック", true],
     ["10", "英文読み上げ", true],
     ["11", "選択されたテキストをクリップボードにコピー", true],
     ["12", "クリップボードの内容を検索語入力ボックスへ貼り付け", true],
@@ -107,8 +107,6 @@ const targets = [
     ["mnuSrchFromPhrase", "熟語:", "熟語："],
 ];
 
-// The builder answers where it refuses; where it would open it waits for its window.
-const refuses = mode => [0, 4, 5].includes(mode);
 const shownAlways = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "16", "21", "28"];
 const isShown = (number, mode, target) => shownAlways.includes(number) ||
     (number === "0" && mode !== 0) || (["19", "20"].includes(number) && mode === 0 && target === 0);
@@ -119,7 +117,7 @@ const walk = (mode, target, label, what) => {
         const inTarget = targets.findIndex(each => each[0] === name);
         const expected = {
             caption: words,
-            enabled: name === "mnuAddSearchCondition" ? refuses(mode) : isEnabled,
+            enabled: isEnabled,
             checked: inMode ? inMode[0] === mode : inTarget >= 0 ? inTarget === target : isChecked,
             visible: true,
         };
@@ -130,7 +128,7 @@ const walk = (mode, target, label, what) => {
         const picture = "frmFind.Picture" + number;
         const expected = {
             toolTip: words,
-            enabled: number === "16" ? refuses(mode) : isEnabled,
+            enabled: isEnabled,
             visible: isShown(number, mode, target),
         };
         check({toolTip: toolTip(picture), enabled: enabled(picture), visible: visible(picture)},

@@ -67,7 +67,7 @@ const way = key => {
     return order.map(name => name.substr("frmFind.".length));
 };
 const expected = ["Combo1", "Label1", "txtFind", "List1", "WebBrowser1"]
-    .concat(["1", "2", "3", "4", "5", "6", "7", "16", "10", "28", "11", "12", "13", "19", "20"].map(each => "Picture" + each));
+    .concat(["1", "2", "3", "4", "5", "6", "7", "8", "16", "9", "10", "28", "11", "12", "13", "19", "20"].map(each => "Picture" + each));
 check(way("Tab"), expected, "Tab");
 check(way("Shift+Tab"), [expected[0]].concat(expected.slice(1).reverse()), "Shift+Tab");
 menu("mnuPreSrch");

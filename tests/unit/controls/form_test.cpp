@@ -5,6 +5,7 @@
 #include "platform/host/host.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
@@ -103,6 +104,36 @@ TEST_F(FormTest, ModalShowReturnsAtOnce)
     form->Unload();
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     DestroyUnloaded();
+}
+
+TEST_F(FormTest, IsHeldByTheFormThatBlockedItWhileThatIsOpen)
+{
+    auto *main = new TestForm(QStringLiteral("frmMain"));
+    main->ShowForm();
+    EXPECT_FALSE(main->IsHeld());
+    const auto open = [main] {
+        auto *dialog = new TestForm(QStringLiteral("frmDialog"));
+        dialog->onLoad = [main] { main->SetTakesInput(false); };
+        dialog->ShowModal();
+        return dialog;
+    };
+    TestForm *dialog = open();
+    EXPECT_TRUE(main->IsHeld());
+    main->SetTakesInput(true);
+    EXPECT_FALSE(main->IsHeld());
+    dialog->Unload();
+    // One that goes without giving the input back holds nothing any more.
+    dialog = open();
+    EXPECT_TRUE(main->IsHeld());
+    dialog->Unload();
+    EXPECT_FALSE(main->TakesInput());
+    EXPECT_FALSE(main->IsHeld());
+    DestroyUnloaded();
+    EXPECT_FALSE(main->IsHeld());
+    // Blocked by no form's load: held by none.
+    main->SetTakesInput(true);
+    main->SetTakesInput(false);
+    EXPECT_FALSE(main->IsHeld());
 }
 
 TEST_F(FormTest, StandsAboveTheFormShownLast)
@@ -316,6 +347,34 @@ TEST_F(FormTest, BlockingOneFormLeavesItsOwnChildFormsAlone)
     blocked.form->SetTakesInput(true);
 }
 
+TEST_F(FormTest, ComesUpOverTheMiddleOfItsOwnerAndStaysAboveIt)
+{
+    auto *owner = new TestForm(QStringLiteral("frmOwner"));
+    owner->setGeometry(100, 80, 400, 300);
+    owner->ShowForm();
+    const QPointer<TestForm> form(new TestForm(QStringLiteral("frmA")));
+    form->resize(200, 100);
+    form->SetOwner(*owner);
+    form->ShowForm();
+    EXPECT_EQ(form->windowHandle()->transientParent(), owner->windowHandle());
+    EXPECT_EQ(form->parentWidget(), nullptr);
+    EXPECT_LE((form->geometry().center() - owner->frameGeometry().center()).manhattanLength(), 2);
+
+    // No part of it beyond the screen, nor moved when it is shown again.
+    form->move(3, 4);
+    form->ShowForm();
+    EXPECT_EQ(form->pos(), QPoint(3, 4));
+    const QRect room = owner->screen()->availableGeometry();
+    owner->move(room.bottomRight() - QPoint(50, 50));
+    auto *other = new TestForm(QStringLiteral("frmB"));
+    other->resize(200, 100);
+    other->SetOwner(*owner);
+    other->ShowForm();
+    EXPECT_TRUE(room.contains(other->geometry()));
+    delete owner;
+    EXPECT_TRUE(form) << "the two do not share their lives";
+}
+
 TEST_F(FormTest, EnterAndEscPressTheirButtons)
 {
     auto *form = new TestForm(QStringLiteral("frmKeys"));
@@ -330,9 +389,15 @@ TEST_F(FormTest, EnterAndEscPressTheirButtons)
     EXPECT_EQ(oks, 1);
     input::Key(*edit, Qt::Key_Escape, QStringLiteral("\x1b"));
     EXPECT_EQ(cancels, 1);
+    auto *check = new QCheckBox(form);
+    check->show();
+    check->setFocus();
+    input::Key(*check, Qt::Key_Return, QStringLiteral("\r"));
+    EXPECT_EQ(oks, 2);
+    EXPECT_FALSE(check->isChecked());
     ok->setEnabled(false);
     input::Key(*edit, Qt::Key_Return, QStringLiteral("\r"));
-    EXPECT_EQ(oks, 1);
+    EXPECT_EQ(oks, 2);
 }
 
 TEST_F(FormTest, HandlersAreCountedAndFailuresStop)

@@ -159,15 +159,20 @@ TEST(Facts, AreTheMachinesOrStandIns)
 TEST(Help, GoesToTheViewer)
 {
     host::WinHelp(QStringLiteral("none"), host::HelpFinder);
-    QString file;
+    QString file, topic;
     int command = 0;
-    host::SetHelpViewer([&](const QString &helpFile, int wanted) {
+    host::SetHelpViewer([&](const QString &helpFile, int wanted, const QString &wantedTopic) {
         file = helpFile;
         command = wanted;
+        topic = wantedTopic;
     });
     host::WinHelp(QStringLiteral("Z:\\Help.HLP"), host::HelpFinder);
     EXPECT_EQ(file, QStringLiteral("Z:\\Help.HLP"));
     EXPECT_EQ(command, 11);
+    EXPECT_EQ(topic, QString());
+    host::WinHelp(QStringLiteral("Z:\\Help.HLP"), host::HelpContext, QStringLiteral("frmFind"));
+    EXPECT_EQ(command, 1);
+    EXPECT_EQ(topic, QStringLiteral("frmFind"));
     host::SetHelpViewer(nullptr);
 }
 

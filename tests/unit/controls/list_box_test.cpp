@@ -108,6 +108,11 @@ TEST_F(ListBoxTest, MouseClicksAlsoTheSelectedRow)
     EXPECT_EQ(list.ListIndex(), 2);
     input::Mouse(*list.viewport(), QEvent::MouseButtonDblClick, Middle(2));
     EXPECT_EQ(doubleClicks, 1);
+    int beside = 0;
+    QObject::connect(&list, &ListBox::DblClickBesideRows, &list, [&beside] { ++beside; });
+    input::Mouse(*list.viewport(), QEvent::MouseButtonDblClick, {5, 180});
+    EXPECT_EQ(beside, 1);
+    EXPECT_EQ(doubleClicks, 1);
 }
 
 TEST_F(ListBoxTest, KeysMoveTheSelection)
@@ -128,6 +133,17 @@ TEST_F(ListBoxTest, KeysMoveTheSelection)
     EXPECT_EQ(list.ListIndex(), 2);
     EXPECT_EQ(clicks, 5);
     EXPECT_EQ(keys, QList<int>{'c'});
+}
+
+TEST_F(ListBoxTest, KeysBeginAtAnEndWhereNoneIsSelected)
+{
+    Fill(Numbers(5));
+    input::Key(list, Qt::Key_End);
+    EXPECT_EQ(list.ListIndex(), 4);
+    list.SetListIndex(-1);
+    input::Key(list, Qt::Key_Up);
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(ListBoxTest, TellsCharactersOfKeys)

@@ -28,6 +28,27 @@ TEST(TextBox, ChangeComesForDifferentTextOnly)
     EXPECT_EQ(changes, 3);
 }
 
+TEST(TextBox, NoCharacterIsCutInHalfAtTheGreatestLength)
+{
+    const QString emoji = QStringLiteral("\U0001F600");
+    TextBox box;
+    box.setMaxLength(4);
+    int changes = 0;
+    QObject::connect(&box, &TextBox::Change, &box, [&] { ++changes; });
+    box.SetText(QStringLiteral("abc") + emoji);
+    EXPECT_EQ(box.Text(), QStringLiteral("abc"));
+    EXPECT_EQ(changes, 1);
+    box.SetText(QStringLiteral("ab") + emoji);
+    EXPECT_EQ(box.Text(), QStringLiteral("ab") + emoji);
+    box.SetText(QStringLiteral("abc"));
+    box.setCursorPosition(1);
+    box.insert(emoji);
+    EXPECT_EQ(box.Text(), QStringLiteral("abc"));
+    box.setCursorPosition(1);
+    box.insert(QStringLiteral("x") + emoji);
+    EXPECT_EQ(box.Text(), QStringLiteral("axbc"));
+}
+
 TEST(TextBox, ComposedTextIsLeftAlone)
 {
     TextBox box;

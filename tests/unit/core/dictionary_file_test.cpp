@@ -1,9 +1,11 @@
 #include "core/pure/dictionary_file.h"
 
 #include "platform/data/adox.h"
+#include "platform/failure/fault_points.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <vector>
@@ -72,6 +74,20 @@ TEST_F(NewDictionary, IsNotMadeOverAnother)
     EXPECT_EQ(Rows(), RowList({{u"kept"_s, 1}}));
 }
 
+TEST_F(NewDictionary, IsThereWholeOrNotAtAll)
+{
+    const QString other = files::DrivePath(m_folder.filePath(u"other.mdb"_s));
+    const auto names = [this] { return QDir(m_folder.path()).entryList(QDir::Files); };
+    for (const QString &operation : {u"Create"_s, u"Append"_s, u"Open"_s, u"rename"_s}) {
+        faults::FailNext(operation, RuntimeError::DiskFull);
+        EXPECT_THROW(CreateDictionaryFile(other), RuntimeError) << operation.toStdString();
+        EXPECT_EQ(names(), QStringList(u"new.mdb"_s)) << operation.toStdString();
+        faults::Clear();
+    }
+    CreateDictionaryFile(other);
+    EXPECT_EQ(names(), (QStringList{u"new.mdb"_s, u"other.mdb"_s}));
+}
+
 TEST_F(NewDictionary, OrdersEqualHeadwordsByNumber)
 {
     for (const QString &word : {u"same"_s, u"other"_s, u"same"_s, u"Same"_s})
@@ -104,4 +120,12 @@ TEST_F(NewDictionary, FindsThePlaceBeforeAKey)
     EXPECT_EQ(Row(), std::pair(u"cow"_s, 2)) << "a key that is there";
     m_table.Seek(u"zoo"_s, 0, ADODB::adSeekBeforeEQ);
     EXPECT_EQ(Row(), std::pair(u"cow"_s, 2)) << "behind the last row";
+}
+
+TEST(DictionaryPath, DoesNotCountItsBlanks)
+{
+    const QTemporaryDir folder;
+    const QString hostPath = folder.filePath(u"a b.mdb"_s);
+    CreateDictionaryFile(u" "_s + files::DrivePath(hostPath) + u" \u3000"_s);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"a b.mdb"_s));
 }

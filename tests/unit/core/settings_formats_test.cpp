@@ -40,6 +40,16 @@ TEST(ListLine, OfAnotherLengthIsTheDefault)
     EXPECT_EQ(ParseListLine(DefaultListLine()), ListSettings{});
 }
 
+TEST(ListLine, IsWrittenWithZerosInFront)
+{
+    EXPECT_EQ(ListLine(ListSettings{}), DefaultListLine());
+    EXPECT_EQ(ListLine({1, 2, 3, 4, 5, 6, 1}), QStringLiteral("00102003000040500061"));
+    EXPECT_EQ(ListLine({300, 30, 300, 30000, 30, 1000, 2}), QStringLiteral("30030300300003010002"));
+    EXPECT_EQ(ListLine({0, 0, 0, 0, 0, 0, 0}), QStringLiteral("00000000000000000000"));
+    const ListSettings settings{123, 45, 678, 12345, 90, 999, 2};
+    EXPECT_EQ(ParseListLine(ListLine(settings)), settings);
+}
+
 TEST(ListLine, RaisesForWhatIsNoNumber)
 {
     EXPECT_EQ(NumberRaisedBy(QStringLiteral("abc15050005001503000")), RuntimeError::TypeMismatch);

@@ -1,6 +1,8 @@
 #include "unit/data/dictionary_fixture.h"
+#include "unit/files/full_disk.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -121,6 +123,39 @@ TEST_F(BulkWriter, ReadOnlyFileIsRefused)
     Create();
     files::MarkReadOnly(Host());
     EXPECT_EQ(Raised([&] { OpenBulk(); }), RuntimeError::PermissionDenied);
+}
+
+TEST_F(BulkWriter, CommitsForABox)
+{
+    CreateWith({u"m"_s});
+    const auto bulk = OpenBulk();
+    bulk->Add(u"a"_s);
+    EXPECT_EQ(AskRaw("SELECT count(*) FROM Dictionary"), "1");
+    ADODB::CommitGroups();
+    EXPECT_EQ(AskRaw("SELECT count(*) FROM Dictionary"), "2");
+    bulk->Add(u"b"_s);
+    bulk->rows.Close();
+    ADODB::CommitGroups();
+    EXPECT_EQ(All().size(), 3U);
+}
+
+TEST_F(BulkWriter, RaisesItselfWhatFailedForOthers)
+{
+    Create();
+    const auto bulk = OpenBulk();
+    for (int i = 0; i < 1'000; ++i)
+        bulk->Add(u"a word of some length, %1"_s.arg(i));
+    ASSERT_EQ(AskRaw("SELECT count(*) FROM Dictionary"), "0");
+    {
+        const FullDisk full(static_cast<rlim_t>(QFileInfo(Host()).size()) + 1);
+        EXPECT_EQ(Raised([] { ADODB::CommitGroups(); }), 0);
+        EXPECT_NE(Raised([&] { bulk->Add(u"next"_s); }), 0);
+    }
+    // Told once; what was being added then is stored when the next row begins.
+    bulk->Add(u"after"_s);
+    bulk->rows.Close();
+    EXPECT_EQ(All(), (std::vector<Entry>{{u"after"_s, 2}, {u"next"_s, 1}}));
+    EXPECT_EQ(AskRaw("PRAGMA integrity_check"), "ok");
 }
 
 TEST_F(BulkWriter, SurvivesBeingKilledAtAnyMoment)

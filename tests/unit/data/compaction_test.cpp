@@ -1,8 +1,14 @@
+#include "platform/data/file_flush.h"
 #include "platform/data/jro.h"
+#include "platform/data/session.h"
+#include "platform/data/structure_check.h"
 #include "unit/data/dictionary_fixture.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <chrono>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -136,6 +142,121 @@ TEST_F(Compaction, WhatTheProgressHookRaisesEndsIt)
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(number, RuntimeError::InvalidCall);
     EXPECT_EQ(Names(), QStringList{u"a.mdb"_s});
+}
+
+TEST_F(Compaction, TellsWhenSourceOrCopyHaveChangedSince)
+{
+    const auto compactAnd = [&](const std::function<void()> &change) {
+        for (const QString &name : Names())
+            QFile::remove(Host(name));
+        CreateWith({u"a"_s, u"b"_s});
+        JRO::JetEngine engine;
+        engine.CompactDatabase(u"Data Source="_s + Drive(), u"Data Source="_s + Drive(u"b.mdb"_s));
+        change();
+        return Raised([&] { engine.RequireUnchanged(); });
+    };
+    EXPECT_EQ(compactAnd([] {}), 0);
+    EXPECT_EQ(compactAnd([&] { EXPECT_EQ(All().size(), 2U); }), 0);
+    EXPECT_EQ(compactAnd([&] { OpenTable()->Add(u"c"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { QFile::remove(Host()); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] {
+                  QFile::remove(Host());
+                  CreateWith({u"a"_s, u"b"_s});
+              }),
+              RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { OpenTable(u"b.mdb"_s)->Add(u"c"_s); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] { QFile::remove(Host(u"b.mdb"_s)); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_EQ(compactAnd([&] {
+                  QFile journal(Host() + u"-journal"_s);
+                  EXPECT_TRUE(journal.open(QIODevice::WriteOnly));
+              }),
+              RuntimeError::CannotOpenDatabase);
+}
+
+TEST_F(Compaction, AnInterruptedWriteToTheSourceIsTakenBackFirst)
+{
+    CreateWith({u"a"_s, u"b"_s});
+    // A writer that dies within a transaction leaves a journal that takes its pages back.
+    EXPECT_EQ(InChild([&] {
+                  data::Session session(Host(), Drive(), data::Session::Access::Existing);
+                  session.Run("PRAGMA cache_size = 1");
+                  session.BeginWrite();
+                  session.Run("UPDATE Dictionary SET Word = 'x'");
+                  session.Run(
+                      "INSERT INTO Dictionary(Word, Description) WITH RECURSIVE n(i) AS (SELECT 1 "
+                      "UNION ALL SELECT i + 1 FROM n WHERE i < 5000) SELECT 'x' || i, 'y' || i FROM n");
+                  return QFile::exists(Host() + u"-journal"_s) ? 0 : 1;
+              }),
+              0);
+    Compact();
+    EXPECT_EQ(All(u"b.mdb"_s), (std::vector<Entry>{{u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_F(Compaction, ASourceThatAnotherProgramLocksIsWaitedForAndTold)
+{
+    CreateWith({u"a"_s});
+    int toChild[2];
+    int toParent[2];
+    ASSERT_EQ(pipe(toChild), 0);
+    ASSERT_EQ(pipe(toParent), 0);
+    char token = 'x';
+    const pid_t child = fork();
+    if (child == 0) {
+        data::Session session(Host(), Drive(), data::Session::Access::Existing);
+        session.Run("BEGIN EXCLUSIVE");
+        const bool told = write(toParent[1], &token, 1) == 1 && read(toChild[0], &token, 1) == 1;
+        _exit(told ? 0 : 1);
+    }
+    ASSERT_EQ(read(toParent[0], &token, 1), 1);
+    EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::CannotOpenDatabase);
+    EXPECT_FALSE(QFile::exists(Host(u"b.mdb"_s)));
+    ASSERT_EQ(write(toChild[1], &token, 1), 1);
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    Compact();
+    EXPECT_EQ(All(u"b.mdb"_s).size(), 1U);
+}
+
+TEST_F(Compaction, TheStructureCheckFindsDamage)
+{
+    CreateSparse();
+    EXPECT_TRUE(data::StructureCheck(Host()).Passed());
+    QFile file(Host());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek(16384 * 3));
+    file.write(QByteArray(16384, '\x5a'));
+    file.close();
+    EXPECT_FALSE(data::StructureCheck(Host()).Passed());
+    EXPECT_FALSE(data::StructureCheck(Host(u"none.mdb"_s)).Passed());
+}
+
+TEST_F(Compaction, AFlushTellsWhatItCannotReach)
+{
+    CreateWith({u"a"_s});
+    EXPECT_EQ(Raised([&] { data::FileFlush(Host()).Finish(); }), 0);
+    EXPECT_EQ(Raised([&] { data::FileFlush(Host(u"none.mdb"_s)).Finish(); }),
+              RuntimeError::CannotOpenDatabase);
+}
+
+TEST_F(Compaction, LetsEventsThroughAboutEvery50Milliseconds)
+{
+    Create();
+    RunRaw(
+        "INSERT INTO Dictionary(Word, Description) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
+        "FROM n WHERE i < 400000) SELECT 'headword number ' || i, 'meaning' FROM n");
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point last = Clock::now();
+    int turns = 0;
+    ADODB::EngineHooks().progress = [&] {
+        ++turns;
+        last = Clock::now();
+    };
+    const Clock::time_point start = Clock::now();
+    Compact();
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+    // The flush at the end is one step; a loaded machine may be late now and then.
+    EXPECT_GE(turns, milliseconds.count() / 250) << milliseconds.count() << " ms";
 }
 
 } // namespace

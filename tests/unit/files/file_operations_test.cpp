@@ -28,6 +28,18 @@ TEST_F(FileOperations, ExistsMeansAFileAndNeverRaises)
         EXPECT_FALSE(files::Exists(path)) << path.toStdString();
 }
 
+TEST_F(FileOperations, KnowsOneFileByItsNames)
+{
+    Put(u"a.dat"_s, "x");
+    Put(u"b.dat"_s, "x");
+    ASSERT_TRUE(QFile::link(Host(u"a.dat"_s), Host(u"link.dat"_s)));
+    EXPECT_TRUE(files::IsSameFile(Drive(u"a.dat"_s), Drive(u"a.dat"_s)));
+    EXPECT_TRUE(files::IsSameFile(Drive(u"link.dat"_s), Drive(u"a.dat"_s)));
+    EXPECT_FALSE(files::IsSameFile(Drive(u"a.dat"_s), Drive(u"b.dat"_s)));
+    for (const QString &path : {Drive(u"none"_s), kLacked, QString()})
+        EXPECT_FALSE(files::IsSameFile(path, path)) << path.toStdString();
+}
+
 TEST_F(FileOperations, TellsLengthAndTime)
 {
     Put(u"a.dat"_s, "12345");
@@ -167,6 +179,34 @@ TEST_F(FileOperations, ReplaceByFileTakesTheTargetsPlace)
     Put(u"temp"_s, "more");
     files::ReplaceByFile(Drive(u"b"_s), Drive(u"temp"_s));
     EXPECT_EQ(Get(u"b"_s), "more");
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"b"_s}));
+}
+
+TEST_F(FileOperations, ReplaceByFileKeepsASymbolicLinkAndPermissions)
+{
+    Put(u"real/a"_s, "old");
+    const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    ASSERT_TRUE(QFile::setPermissions(Host(u"real/a"_s), own));
+    ASSERT_TRUE(QFile::link(Host(u"real/a"_s), Host(u"a"_s)));
+    Put(u"temp"_s, "new");
+    files::ReplaceByFile(Drive(u"a"_s), Drive(u"temp"_s));
+    EXPECT_TRUE(QFileInfo(Host(u"a"_s)).isSymLink());
+    EXPECT_EQ(Get(u"real/a"_s), "new");
+    EXPECT_EQ(QFile::permissions(Host(u"real/a"_s)), own);
+    EXPECT_FALSE(files::Exists(Drive(u"temp"_s)));
+}
+
+TEST_F(FileOperations, CopyYieldsAndStopsWhenTheYieldRaises)
+{
+    Put(u"a"_s, QByteArray(3 << 20, 'x'));
+    int yields = 0;
+    files::Copy(Drive(u"a"_s), Drive(u"b"_s), [&yields] { ++yields; });
+    EXPECT_EQ(yields, 3);
+    EXPECT_EQ(Raised([&] {
+                  files::Copy(Drive(u"a"_s), Drive(u"c"_s),
+                              [] { throw RuntimeError(RuntimeError::InvalidCall); });
+              }),
+              RuntimeError::InvalidCall);
     EXPECT_EQ(Names(), (QStringList{u"a"_s, u"b"_s}));
 }
 

@@ -1,4 +1,5 @@
 #include "platform/files/line_file.h"
+#include "platform/text/shift_jis.h"
 #include "unit/files/full_disk.h"
 #include "unit/files/temp_home.h"
 
@@ -41,6 +42,24 @@ TEST_F(LineFiles, WriterEndsEachLine)
     writer.WriteLine(QByteArray("\x81\x40\0x", 4));
     writer.Close();
     EXPECT_EQ(Get(u"a.txt"_s), QByteArray("one\r\n\r\n\x81\x40\0x\r\n", 13));
+}
+
+TEST_F(LineFiles, WriterEndsLinesInTheEncoding)
+{
+    const struct {
+        Encoding encoding;
+        QByteArray content;
+    } table[] = {{Encoding::ShiftJis, "x\r\n"},
+                 {Encoding::Utf8, "x\r\n"},
+                 {Encoding::Utf16LittleEndian, QByteArray("x\r\0\n\0", 5)},
+                 {Encoding::Utf16BigEndian, QByteArray("x\0\r\0\n", 5)}};
+    for (const auto &row : table) {
+        LineWriter writer(Drive(u"a.txt"_s), LineWriter::Mode::Output, row.encoding);
+        writer.WriteLine("x");
+        EXPECT_EQ(Get(u"a.txt"_s), "");
+        writer.Flush();
+        EXPECT_EQ(Get(u"a.txt"_s), row.content);
+    }
 }
 
 TEST_F(LineFiles, WriterEmptiesOrAppends)
@@ -144,6 +163,18 @@ TEST_F(LineFiles, ReaderFindsLineEndsAcrossItsBuffer)
     }
 }
 
+TEST_F(LineFiles, ReaderTakesAVeryLongLine)
+{
+    // Many buffers long; read again from its beginning at each of them it would take minutes.
+    constexpr qsizetype length = qsizetype{64} << 20;
+    const QByteArray line(length, 'x');
+    Put(u"a.txt"_s, line + "\r\n\x8C\xA9\n");
+    LineReader reader(Drive(u"a.txt"_s));
+    EXPECT_EQ(reader.ReadLine().size(), length);
+    EXPECT_EQ(reader.ReadLine(), u"見"_s);
+    EXPECT_TRUE(reader.AtEnd());
+}
+
 TEST_F(LineFiles, ReaderHonoursByteOrderMarks)
 {
     const QStringList expected{u"見出し é"_s, u"次\u0A0D\u0D0A"_s};
@@ -182,6 +213,50 @@ TEST_F(LineFiles, ReaderKeepsALaterMarkAndSurvivesHalfACodeUnit)
                                   7))
                   .size(),
               2);
+}
+
+TEST_F(LineFiles, ReaderKeepsTheBytesOfTheLineReadLast)
+{
+    const QByteArray wide(70'000, 'y');
+    Put(u"a.txt"_s, "\xFD one\r\n" + wide + "\r\nlast");
+    LineReader reader(Drive(u"a.txt"_s));
+    EXPECT_EQ(reader.ReadLine(), u"\u30FB one"_s);
+    EXPECT_EQ(reader.RawLine(), "\xFD one");
+    reader.SkipLine();
+    EXPECT_EQ(reader.RawLine(), wide);
+    EXPECT_FALSE(reader.AtEnd());
+    reader.SkipLine();
+    EXPECT_EQ(reader.RawLine(), "last");
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_EQ(Raised([&] { reader.SkipLine(); }), RuntimeError::InputPastEnd);
+}
+
+TEST_F(LineFiles, RawLinesAreTrimmedAsTheirText)
+{
+    const struct {
+        QByteArray bytes;
+        QByteArray trimmed;
+    } table[] = {
+        {"", ""},
+        {"a", "a"},
+        {"  a b ", "a b"},
+        {"   ", ""},
+        {"\x81\x40 \x81\x40", ""},
+        {" \x81\x40\xFD\x81\x40 ", "\xFD"},
+        {"\x83\x81\x40", "\x83\x81\x40"},             // the last byte is a commercial at
+        {"\x83\x81\x81\x40", "\x83\x81"},             // and here a blank's
+        {" \x81", "\x81"},                            // a lead byte alone
+        {QByteArray(" \0 ", 3), QByteArray("\0", 1)}, // NUL is no blank
+    };
+    for (const auto &row : table)
+        EXPECT_EQ(files::TrimmedRaw(row.bytes, text::Decode(row.bytes), Encoding::ShiftJis), row.trimmed)
+            << row.bytes.toHex().toStdString();
+    const QByteArray utf8 = u"\u3000 é\u3000 "_s.toUtf8();
+    EXPECT_EQ(files::TrimmedRaw(utf8, QString::fromUtf8(utf8), Encoding::Utf8), u"é"_s.toUtf8());
+    const QString wide = u"\u3000 é "_s;
+    const QByteArray utf16(reinterpret_cast<const char *>(wide.utf16()), 2 * wide.size());
+    EXPECT_EQ(files::TrimmedRaw(utf16, wide, Encoding::Utf16LittleEndian), utf16.sliced(4, 2));
+    EXPECT_EQ(files::TrimmedRaw(utf16 + 'x', wide, Encoding::Utf16LittleEndian), utf16.sliced(4) + 'x');
 }
 
 TEST_F(LineFiles, ReaderDecodesShiftJis)

@@ -77,4 +77,39 @@ inline constexpr Case kCases[] = {
     {u"A\u3000ｶﾞ①", u"ａ が①", true, "everything at once"},
 };
 
+/// Searches: where the needle is found from a position on, and how much of the text matched.
+struct Find {
+    QStringView haystack;
+    QStringView needle;
+    qsizetype from;
+    qsizetype position;
+    qsizetype length;
+};
+
+inline constexpr Find kFinds[] = {
+    {u"abcabc", u"B", 1, 2, 1},
+    {u"abcabc", u"B", 3, 5, 1},
+    {u"abcabc", u"x", 1, 0, 0},
+    {u"abc", u"abcd", 1, 0, 0},
+    {u"xｶﾞy", u"ガ", 1, 2, 2},
+    {u"xｶﾞy", u"y", 1, 4, 1},
+    {u"xガy", u"ｶﾞＹ", 1, 2, 2},
+    {u"ｶﾞカ", u"カ", 1, 3, 1},
+    {u"ｶﾞ", u"゛", 1, 0, 0},
+    {u"ﾊﾟﾊﾟx", u"ぱx", 1, 3, 3},
+    {u"\U0001F600ab", u"A", 1, 3, 1},
+    {u"\U0001F600\U00010400", u"\U00010428", 1, 3, 2},
+    {u"a\u3000b", u"A B", 1, 1, 3},
+    {u"aab", u"ab", 1, 2, 2},
+    {u"aaab", u"aab", 1, 2, 3},
+    {u"abc", u"abc", 1, 1, 3},
+    {u"abc", u"abc", 2, 0, 0},
+    {u"abc", u"", 1, 1, 0},
+    {u"abc", u"", 3, 3, 0},
+    {u"abc", u"", 4, 0, 0},
+    {u"", u"", 1, 0, 0},
+    {u"", u"a", 1, 0, 0},
+    {u"abc", u"c", 99, 0, 0},
+};
+
 } // namespace comparison

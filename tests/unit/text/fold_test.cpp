@@ -2,6 +2,7 @@
 
 #include "platform/failure/runtime_error.h"
 #include "unit/text/comparison_cases.h"
+#include "unit/text/random_text.h"
 
 #include <QList>
 #include <algorithm>
@@ -19,17 +20,6 @@ constexpr char32_t kCodePoints = 0x110000;
 std::string Utf8(QStringView text) { return text.toUtf8().toStdString(); }
 
 int Sign(int value) { return (value > 0) - (value < 0); }
-
-/// Random text of characters that fold, pair and sort in every way there is.
-QString RandomText(std::mt19937 &random, size_t longest = 8)
-{
-    static const std::u32string kAlphabet =
-        U"aAbzZ09 　-'ａＡｶｶﾊﾞﾟがガｱあアーｰ漢字亜éÉ\U0001F600\U00010400\U00010428｡。";
-    QString text;
-    for (size_t length = random() % (longest + 1); length > 0; --length)
-        text.append(QStringView(QChar::fromUcs4(kAlphabet[random() % kAlphabet.size()])));
-    return text;
-}
 
 TEST(Fold, TakesTheCasesForTheSameOrNot)
 {
@@ -213,42 +203,9 @@ TEST(Fold, KnowsTheHalfWidthBaseOfEveryVoicedPair)
     EXPECT_EQ(text::HalfWidthBaseOf(U'ッ'), 0U);
 }
 
-struct FindCase {
-    QStringView haystack;
-    QStringView needle;
-    qsizetype from;
-    qsizetype position;
-    qsizetype length;
-};
-
 TEST(FindMatch, MapsPositionAndLengthToTheOriginal)
 {
-    constexpr FindCase kFinds[] = {
-        {u"abcabc", u"B", 1, 2, 1},
-        {u"abcabc", u"B", 3, 5, 1},
-        {u"abcabc", u"x", 1, 0, 0},
-        {u"abc", u"abcd", 1, 0, 0},
-        {u"xｶﾞy", u"ガ", 1, 2, 2},
-        {u"xｶﾞy", u"y", 1, 4, 1},
-        {u"xガy", u"ｶﾞＹ", 1, 2, 2},
-        {u"ｶﾞカ", u"カ", 1, 3, 1},
-        {u"ｶﾞ", u"゛", 1, 0, 0},
-        {u"ﾊﾟﾊﾟx", u"ぱx", 1, 3, 3},
-        {u"\U0001F600ab", u"A", 1, 3, 1},
-        {u"\U0001F600\U00010400", u"\U00010428", 1, 3, 2},
-        {u"a\u3000b", u"A B", 1, 1, 3},
-        {u"aab", u"ab", 1, 2, 2},
-        {u"aaab", u"aab", 1, 2, 3},
-        {u"abc", u"abc", 1, 1, 3},
-        {u"abc", u"abc", 2, 0, 0},
-        {u"abc", u"", 1, 1, 0},
-        {u"abc", u"", 3, 3, 0},
-        {u"abc", u"", 4, 0, 0},
-        {u"", u"", 1, 0, 0},
-        {u"", u"a", 1, 0, 0},
-        {u"abc", u"c", 99, 0, 0},
-    };
-    for (const FindCase &c : kFinds) {
+    for (const comparison::Find &c : comparison::kFinds) {
         const text::Match match = text::FindMatch(c.haystack, c.needle, c.from);
         EXPECT_EQ(match.position, c.position) << Utf8(c.haystack) << " / " << Utf8(c.needle);
         EXPECT_EQ(match.length, c.length) << Utf8(c.haystack) << " / " << Utf8(c.needle);

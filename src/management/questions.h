@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/dialogs/dialogs.h"
+
+#include <QString>
+
+/// The boxes of the record editor, each with its beep.
+
+/// A notice.
+void Tell(const QString &text, const QString &title);
+/// Questions; the answer is dialogs::Yes, No or Cancel.
+int AskYesNo(const QString &text, const QString &title);
+int AskYesNoCancel(const QString &text, const QString &title);

@@ -1,0 +1,20 @@
+// The dictionary on another file system than the temporary folder; a backup there.
+const shared = "/dev/shm/wordmere-scenario-" + Math.floor(Math.random() * 1e9);
+mkdir(shared);
+const dictionary = shared + "/words.mdb", backup = tempDir() + "/backup.mdb";
+makeDictionary(dictionary, [["ice", null, 1, "氷", null], ["fire", null, 1, "火", "fire and ice"]]);
+setCatalogue([{name: "英和", path: dictionary, selected: true}]);
+start();
+deleteRow(dictionary, 1);
+const before = readBytes(dictionary), rowsBefore = rows(dictionary);
+menu("mnuCompress");
+choose("frmDBCompress.Combo1", 0);
+setText("frmDBCompress.Text1", backup);
+answer("OK");
+click("frmDBCompress.Command2");
+check(boxes().map(box => box.title), ["最適化完了"], "it takes the place of the old file");
+check(rows(dictionary), rowsBefore, "with its rows");
+check(readBytes(backup), before, "the backup is the old file");
+check(exists(tempFolder() + "TemporaryDBBackupFile.mdb"), false, "no temporary file stays");
+closeForm("frmDBCompress");
+remove(shared);

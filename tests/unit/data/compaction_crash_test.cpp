@@ -1,0 +1,106 @@
+#include "platform/data/jro.h"
+#include "unit/data/dictionary_fixture.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int kKills = 50;
+constexpr int kWords = 20'000;
+
+/// What a compaction of the program does to the files, one run after the other.
+class CompactionCrash : public DictionaryTest
+{
+protected:
+    void MakeDictionary() const
+    {
+        Create();
+        RunRaw("INSERT INTO Dictionary(Word, WordPhrase, Description) WITH RECURSIVE n(i) AS (SELECT 1 UNION "
+               "ALL SELECT i + 1 FROM n WHERE i < 20000) SELECT 'headword number ' || (i * 7919 % 20011), 1, "
+               "'meaning of ' || i FROM n");
+        RunRaw("DELETE FROM Dictionary WHERE AutoID % 3 = 0");
+    }
+
+    static void Compact(const QString &path, const QString &temporary, const QString &backup)
+    {
+        files::DeleteIfThere(temporary);
+        files::DeleteIfThere(backup);
+        JRO::JetEngine engine;
+        engine.CompactDatabase(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + path,
+                               u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + temporary);
+        files::Copy(path, backup);
+        engine.RequireUnchanged();
+        files::ReplaceByFile(path, temporary);
+    }
+
+    /// Kills compactions at moments all over their length; each time the dictionary must be whole.
+    void KillAndLook(const QString &temporary)
+    {
+        MakeDictionary();
+        const std::vector<Entry> rows = All();
+        ASSERT_EQ(rows.size(), static_cast<std::size_t>(kWords - kWords / 3));
+        const QString backup = Drive(u"BKUP_a.mdb"_s);
+        std::minstd_rand random(20260717);
+        // Long enough for the first run to be done, often in the midst of a later one.
+        std::uniform_int_distribution<useconds_t> moment(0, 250'000);
+        int completed = 0;
+        for (int kill = 0; kill < kKills; ++kill) {
+            SCOPED_TRACE(kill);
+            KillWhile(moment(random), [&] {
+                for (;;)
+                    Compact(Drive(), temporary, backup);
+            });
+            ASSERT_EQ(All(), rows);
+            ASSERT_EQ(AskRaw("PRAGMA quick_check"), "ok");
+            ASSERT_FALSE(QFileInfo::exists(Host() + u"-journal"_s));
+            if (files::Exists(backup)) {
+                ASSERT_EQ(All(u"BKUP_a.mdb"_s), rows);
+                ++completed;
+            }
+        }
+        EXPECT_GT(completed, 0) << "no run came as far as the backup";
+        // What a killed run left is in nobody's way.
+        Compact(Drive(), temporary, backup);
+        EXPECT_EQ(All(), rows);
+        EXPECT_FALSE(files::Exists(temporary));
+    }
+
+private:
+    template <typename Work> static void KillWhile(useconds_t time, Work work)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            try {
+                work();
+            } catch (const RuntimeError &) {
+                ::_exit(1);
+            }
+            ::_exit(0);
+        }
+        ::usleep(time);
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "it ended by itself";
+    }
+};
+
+} // namespace
+
+TEST_F(CompactionCrash, TheDictionaryIsAlwaysWhole) { KillAndLook(Drive(u"temporary.mdb"_s)); }
+
+TEST_F(CompactionCrash, FromAnotherFileSystemToo)
+{
+    if (!QFileInfo(u"/dev/shm"_s).isWritable())
+        GTEST_SKIP() << "one file system only";
+    const QTemporaryDir other(u"/dev/shm/wordmere-test-XXXXXX"_s);
+    KillAndLook(files::DrivePath(other.filePath(u"temporary.mdb"_s)));
+}
