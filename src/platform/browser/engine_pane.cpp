@@ -76,14 +76,6 @@ bool MakesPdf(const QPrinter &printer)
            printer.paintEngine()->type() != QPaintEngine::Picture;
 }
 
-/// Whether what is printed goes to a file that the engine can write by itself. A preview has the
-/// printer's file name too, and must not write there.
-bool MakesPdf(const QPrinter &printer)
-{
-    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty() &&
-           printer.paintEngine()->type() != QPaintEngine::Picture;
-}
-
 void RaiseUnless(bool succeeded)
 {
     if (!succeeded)
