@@ -29,6 +29,15 @@ protected:
         QFile file(Host());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    /// Overwrites a page in the middle of the file.
+    void DamageAPage() const
+    {
+        constexpr qint64 pageSize = 16384;
+        QFile file(Host());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.seek(3 * pageSize));
+        EXPECT_EQ(file.write(QByteArray(pageSize, '\x5a')), pageSize);
+    }
     /// A file of which most rows were deleted.
     void CreateSparse() const
     {
@@ -114,11 +123,7 @@ TEST_F(Compaction, ExistingTargetIsLeftAlone)
 TEST_F(Compaction, DamagedSourceGivesNoCopy)
 {
     CreateSparse();
-    QFile file(Host());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.seek(16384 * 3));
-    file.write(QByteArray(16384, '\x5a'));
-    file.close();
+    DamageAPage();
     const QByteArray before = Bytes();
     EXPECT_EQ(Raised([&] { Compact(); }), RuntimeError::CannotOpenDatabase);
     EXPECT_EQ(Bytes(), before);
@@ -222,11 +227,7 @@ TEST_F(Compaction, TheStructureCheckFindsDamage)
 {
     CreateSparse();
     EXPECT_TRUE(data::StructureCheck(Host()).Passed());
-    QFile file(Host());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.seek(16384 * 3));
-    file.write(QByteArray(16384, '\x5a'));
-    file.close();
+    DamageAPage();
     EXPECT_FALSE(data::StructureCheck(Host()).Passed());
     EXPECT_FALSE(data::StructureCheck(Host(u"none.mdb"_s)).Passed());
 }
