@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -117,7 +118,8 @@ void Form::StandAbove(const Form &owner)
     place.moveCenter(owner.geometry().center());
     place.moveRight(std::min(place.right(), room.right()));
     place.moveBottom(std::min(place.bottom(), room.bottom()));
-    move(std::max(room.left(), place.left()), std::max(room.top(), place.top()));
+    place.moveTopLeft({std::max(room.left(), place.left()), std::max(room.top(), place.top())});
+    setGeometry(place);
 }
 
 void Form::SetDialogFrame()
@@ -244,8 +246,9 @@ void Form::keyPressEvent(QKeyEvent *event)
 {
     QAbstractButton *button = nullptr;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
-        button = focused ? focused : m_enterButton.data();
+        // A check box leaves Enter to the form.
+        auto *focused = qobject_cast<QPushButton *>(focusWidget());
+        button = focused ? static_cast<QAbstractButton *>(focused) : m_enterButton.data();
     } else if (event->key() == Qt::Key_Escape) {
         button = m_escapeButton;
     }
