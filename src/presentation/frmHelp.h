@@ -30,6 +30,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_Unload(controls::UnloadReason reason) override;
+    bool OwnsModalForms() const override { return false; }
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -95,7 +95,9 @@ void Form::ShowModal()
 {
     if (!isVisible())
         setWindowModality(Qt::ApplicationModal);
-    const auto isOwner = [this](const Form *form) { return form != this && form->isVisible(); };
+    const auto isOwner = [this](const Form *form) {
+        return form != this && form->isVisible() && form->OwnsModalForms();
+    };
     const auto owner = std::find_if(loadedForms.crbegin(), loadedForms.crend(), isOwner);
     if (owner == loadedForms.crend())
         ShowForm();

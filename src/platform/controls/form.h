@@ -24,8 +24,8 @@ public:
     /// disabled, and goes on to the caller.
     void Load();
     /// Loads if need be, and shows the form. All return at once. ShowAbove keeps it above another window
-    /// for good; ShowModal does so above the form shown last, and blocks every other window. Both put it
-    /// over the middle of that window unless its load has placed it.
+    /// for good; ShowModal does so above the form shown last that owns such, and blocks every other window.
+    /// Both put it over the middle of that window unless its load has placed it.
     void ShowForm();
     void ShowAbove(const Form &owner);
     void ShowModal();
@@ -64,6 +64,8 @@ protected:
     /// False refuses.
     virtual bool Form_QueryUnload(UnloadReason reason);
     virtual void Form_Unload(UnloadReason reason);
+    /// Whether modal forms opened while this one is shown belong to it: not to a window that stands beside.
+    virtual bool OwnsModalForms() const { return true; }
     /// Whether the window frame may close the form at present.
     virtual bool AcceptsFrameClose() const { return true; }
     virtual void Form_MouseMove(const QPoint &) {}
