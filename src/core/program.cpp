@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QStyleFactory>
 #include <QTranslator>
+#include <vector>
 
 /// The pictures lie in a static library, which the linker would leave without them. (The macro wants
 /// the global namespace.)
@@ -94,8 +95,16 @@ void Program::PrepareApplication()
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     ADODB::EngineHooks().progress = host::DoEvents;
-    ADODB::EngineHooks().busy = [](bool busy) {
-        host::SetMousePointer(busy ? host::PointerHourglass : host::PointerDefault);
+    // Behind the work the pointer is what it was: a search may run under the hourglass, and the work of
+    // one file may begin in a turn of the event loop that the work of another lets through.
+    ADODB::EngineHooks().busy = [before = std::vector<int>()](bool busy) mutable {
+        if (busy) {
+            before.push_back(host::MousePointer());
+            host::SetMousePointer(host::PointerHourglass);
+        } else {
+            host::SetMousePointer(before.back());
+            before.pop_back();
+        }
     };
 }
 
