@@ -25,16 +25,18 @@ PageScan::Result PageScan::Next()
 {
     m_session.BeginRead();
     if (m_generation != m_session.Generation()) {
-        m_generation = m_session.Generation();
+        // Where the lock cannot be had this raises, and is asked again by the next call.
         m_stands = m_stands && m_walk.StillStands();
+        m_generation = m_session.Generation();
     }
     if (!m_stands && !GoToPlace())
         return Result::Lost;
     for (;;) {
         StoredPage::Cell cell;
         while (m_nextCell < m_cells.size()) {
-            const int number = m_cells[m_nextCell++];
-            const Answer answer = m_walk.Page().CellAt(number, cell) ? Test(cell) : Answer::Senseless;
+            const bool hasSense = m_walk.Page().CellAt(m_cells[m_nextCell], cell);
+            const Answer answer = hasSense ? Test(cell) : Answer::Senseless;
+            ++m_nextCell;
             if (answer != Answer::Fails)
                 return answer == Answer::Passes ? Result::Row : Result::Lost;
         }

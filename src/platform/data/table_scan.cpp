@@ -44,8 +44,11 @@ bool TableScan::NextOfStatement()
     m_session.BeginRead();
     if (!m_open || m_generation != m_session.Generation())
         OpenStatement();
+    // A step that fails puts the statement back to its beginning.
+    m_open = false;
     if (!m_rows.Step())
         return false;
+    m_open = true;
     m_autoID = m_rows.Number(0);
     m_word.assign(m_rows.Text(1));
     return true;
@@ -61,7 +64,6 @@ void TableScan::OpenStatement()
     }
     m_rows.Reset();
     m_rows.BindNumber(1, m_autoID);
-    m_open = true;
     m_generation = m_session.Generation();
 }
 

@@ -33,7 +33,7 @@ private:
     bool m_isAtEnd = false;
 
     Prepared m_rows;
-    bool m_open = false; ///< m_rows stands on the row or in front of the first
+    bool m_open = false; ///< m_rows stands on the row
     std::string m_word;
     qint64 m_autoID = kBeforeAllIDs;
     quint64 m_generation = 0;
