@@ -5,9 +5,6 @@
 
 #include "bare_dictionary.h"
 
-#include "platform/data/adodb.h"
-#include "platform/files/drive_path.h"
-
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -96,7 +93,7 @@ public:
     {
         constexpr Milliseconds turn{5};
         ADODB::Connection connection;
-        connection.Open(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + files::DrivePath(m_dictionary));
+        connection.Open(bench::ConnectionTo(m_dictionary));
         const auto rows =
             connection.Execute(u"SELECT TOP %1 * FROM Dictionary WHERE %2"_s.arg(top).arg(condition));
         std::size_t count = 0;
