@@ -41,7 +41,8 @@ void BareLoad(const QString &path, std::span<const GeneratedRow> rows);
 /// Walks the whole index with a function that is asked for each headword and passes none.
 void BareIndexScan(const QString &path);
 
-/// Writes a column of all rows to a file of its own, a row a line, in the order of the table.
+/// Writes a column of all rows, or an expression of columns, to a file of its own, a row a line, in the
+/// order of the table.
 void BareWriteColumn(const QString &path, const char *column, const QString &flatPath);
 
 } // namespace bench

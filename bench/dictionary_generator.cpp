@@ -1,7 +1,6 @@
 #include "dictionary_generator.h"
 
-#include "platform/data/adodb.h"
-#include "platform/data/adox.h"
+#include "core/pure/dictionary_file.h"
 #include "platform/files/drive_path.h"
 #include "platform/files/line_file.h"
 #include "platform/text/shift_jis.h"
@@ -108,11 +107,6 @@ QString Meaning(Draw &draw)
     return meaning.first(60);
 }
 
-QString ConnectionTo(const QString &hostPath)
-{
-    return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=%1;"_s.arg(files::DrivePath(hostPath));
-}
-
 } // namespace
 
 GeneratedRow DictionaryGenerator::Row(std::uint32_t number) const
@@ -145,25 +139,32 @@ std::uint32_t DictionaryGenerator::Place(std::uint32_t number) const
     return static_cast<std::uint32_t>((number * stride + 12'345) % m_count);
 }
 
-void MakeEmptyDictionary(const QString &hostPath)
+QString ConnectionTo(const QString &hostPath) { return ViewConnectionString(files::DrivePath(hostPath)); }
+
+DictionaryWriter::DictionaryWriter(const QString &hostPath)
 {
-    ADOX::Catalog catalog;
-    catalog.Create(ConnectionTo(hostPath));
-    ADOX::Table table;
-    table.Name = u"Dictionary"_s;
-    table.AppendColumn(u"Word"_s, ADODB::adVarWChar, 255);
-    table.AppendColumn(u"Pronunciation"_s, ADODB::adVarWChar, 64);
-    table.AppendColumn(u"WordPhrase"_s, ADODB::adSmallInt, 0);
-    table.AppendColumn(u"Description"_s, ADODB::adLongVarWChar, 0);
-    table.AppendColumn(u"Example"_s, ADODB::adLongVarWChar, 0);
-    ADOX::Column number;
-    number.Name = u"AutoID"_s;
-    number.Type = ADODB::adInteger;
-    number.ParentCatalog = &catalog;
-    number.SetProperty(u"AutoIncrement"_s, true);
-    table.AppendColumn(number);
-    table.AppendKey({u"WordID"_s, ADOX::adKeyPrimary, u"Dictionary"_s, {u"Word"_s, u"AutoID"_s}});
-    catalog.AppendTable(table);
+    CreateDictionaryFile(files::DrivePath(hostPath));
+    m_connection.Open(ConnectionTo(hostPath));
+    m_rows.Open(u"Dictionary"_s, m_connection, ADODB::adOpenDynamic, ADODB::adLockOptimistic,
+                ADODB::adCmdTable);
+}
+
+void DictionaryWriter::Add(const GeneratedRow &row)
+{
+    const ADODB::Fields fields = m_rows.Fields();
+    m_rows.AddNew();
+    fields.Item(u"Word"_s).SetValue(row.word);
+    fields.Item(u"Pronunciation"_s).SetValue(row.pronunciation);
+    fields.Item(u"WordPhrase"_s).SetValue(row.wordPhrase);
+    fields.Item(u"Description"_s).SetValue(row.description);
+    fields.Item(u"Example"_s).SetValue(row.example);
+    m_rows.Update();
+}
+
+void DictionaryWriter::Close()
+{
+    m_rows.Close();
+    m_connection.Close();
 }
 
 void WriteEijiroSource(const QString &hostPath, std::uint32_t count, RowOrder order)
@@ -185,24 +186,11 @@ void WriteEijiroSource(const QString &hostPath, std::uint32_t count, RowOrder or
 
 void MakeDictionary(const QString &hostPath, std::uint32_t count, RowOrder order)
 {
-    MakeEmptyDictionary(hostPath);
-    ADODB::Connection connection;
-    connection.Open(ConnectionTo(hostPath));
-    ADODB::Recordset rows;
-    rows.Open(u"Dictionary"_s, connection, ADODB::adOpenDynamic, ADODB::adLockOptimistic, ADODB::adCmdTable);
-    const ADODB::Fields fields = rows.Fields();
     const DictionaryGenerator generator(count, order);
-    for (std::uint32_t number = 0; number < count; ++number) {
-        const GeneratedRow row = generator.Row(number);
-        rows.AddNew();
-        fields.Item(u"Word"_s).SetValue(row.word);
-        fields.Item(u"Pronunciation"_s).SetValue(row.pronunciation);
-        fields.Item(u"WordPhrase"_s).SetValue(row.wordPhrase);
-        fields.Item(u"Description"_s).SetValue(row.description);
-        fields.Item(u"Example"_s).SetValue(row.example);
-        rows.Update();
-    }
-    rows.Close();
+    DictionaryWriter writer(hostPath);
+    for (std::uint32_t number = 0; number < count; ++number)
+        writer.Add(generator.Row(number));
+    writer.Close();
 }
 
 } // namespace bench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/data/adodb.h"
+
 #include <QString>
 #include <array>
 #include <cstdint>
@@ -36,14 +38,30 @@ private:
     RowOrder m_order;
 };
 
-/// Makes a dictionary file at a host path through the engine; raises what the engine raises.
+/// A new dictionary file that is filled through the engine. Its calls raise what the engine raises.
+class DictionaryWriter
+{
+public:
+    /// Creates the file at a host path.
+    explicit DictionaryWriter(const QString &hostPath);
+
+    void Add(const GeneratedRow &row);
+    /// Builds the index.
+    void Close();
+
+private:
+    ADODB::Connection m_connection;
+    ADODB::Recordset m_rows;
+};
+
+/// Makes a dictionary file at a host path; raises what the engine raises.
 void MakeDictionary(const QString &hostPath, std::uint32_t count, RowOrder order);
+
+/// The connection string to a file at a host path.
+QString ConnectionTo(const QString &hostPath);
 
 /// Writes the same rows as a source text of the form "■headword : 【発音】...、meaning / 【用例】 example",
 /// in code page 932, at a host path.
 void WriteEijiroSource(const QString &hostPath, std::uint32_t count, RowOrder order);
-
-/// Makes the file without any row.
-void MakeEmptyDictionary(const QString &hostPath);
 
 } // namespace bench

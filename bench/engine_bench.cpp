@@ -1,8 +1,7 @@
 #include "bare_dictionary.h"
 #include "dictionary_generator.h"
 
-#include "platform/data/adodb.h"
-#include "platform/files/drive_path.h"
+#include "core/pure/dictionary_file.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -44,11 +43,6 @@ const QString &SearchedFile()
     return path;
 }
 
-QString ConnectionTo(const QString &hostPath)
-{
-    return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=%1;"_s.arg(files::DrivePath(hostPath));
-}
-
 /// The words that are typed, one a step.
 const std::vector<QString> &TypedWords()
 {
@@ -68,9 +62,7 @@ std::size_t IncrementalStep(const QString &connectionString, const QString &word
     ADODB::Connection connection;
     connection.Open(connectionString);
     ADODB::Recordset rows;
-    rows.Open(u"Dictionary"_s, connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic,
-              ADODB::adCmdTableDirect);
-    rows.SetIndex(u"WordID"_s);
+    OpenTableByIndex(connection, rows);
     const ADODB::Fields fields = rows.Fields();
     read += static_cast<std::size_t>(fields.Item(u"Word"_s).Text().size());
     rows.Seek(word, 0, ADODB::adSeekBeforeEQ);
@@ -93,7 +85,7 @@ std::size_t IncrementalStep(const QString &connectionString, const QString &word
 
 void IncrementalEngine(benchmark::State &state)
 {
-    const QString connection = ConnectionTo(SearchedFile());
+    const QString connection = bench::ConnectionTo(SearchedFile());
     const std::vector<QString> &words = TypedWords();
     std::size_t i = 0;
     for ([[maybe_unused]] const auto &step : state)
@@ -127,24 +119,10 @@ void LoadEngine(benchmark::State &state)
         state.PauseTiming();
         QFile::remove(path);
         state.ResumeTiming();
-        bench::MakeEmptyDictionary(path);
-        ADODB::Connection connection;
-        connection.Open(ConnectionTo(path));
-        ADODB::Recordset rows;
-        rows.Open(u"Dictionary"_s, connection, ADODB::adOpenDynamic, ADODB::adLockOptimistic,
-                  ADODB::adCmdTable);
-        const ADODB::Fields fields = rows.Fields();
-        for (const bench::GeneratedRow &row : loaded) {
-            rows.AddNew();
-            fields.Item(u"Word"_s).SetValue(row.word);
-            fields.Item(u"Pronunciation"_s).SetValue(row.pronunciation);
-            fields.Item(u"WordPhrase"_s).SetValue(row.wordPhrase);
-            fields.Item(u"Description"_s).SetValue(row.description);
-            fields.Item(u"Example"_s).SetValue(row.example);
-            rows.Update();
-        }
-        rows.Close();
-        connection.Close();
+        bench::DictionaryWriter writer(path);
+        for (const bench::GeneratedRow &row : loaded)
+            writer.Add(row);
+        writer.Close();
     }
     state.SetItemsProcessed(state.iterations() * kLoadedRows);
 }
@@ -168,7 +146,7 @@ void Search(benchmark::State &state, const QString &condition)
     const QString statement = u"SELECT TOP 500 * FROM Dictionary WHERE %1"_s.arg(condition);
     for ([[maybe_unused]] const auto &step : state) {
         ADODB::Connection connection;
-        connection.Open(ConnectionTo(SearchedFile()));
+        connection.Open(bench::ConnectionTo(SearchedFile()));
         const auto rows = connection.Execute(statement);
         for (; !rows->Eof(); rows->MoveNext())
             benchmark::DoNotOptimize(rows->Fields().Item(u"Word"_s).Text());

@@ -18,6 +18,7 @@
 #include <QLocale>
 #include <QStyleFactory>
 #include <QTranslator>
+#include <vector>
 
 /// The pictures lie in a static library, which the linker would leave without them. (The macro wants
 /// the global namespace.)
@@ -98,11 +99,16 @@ void Program::PrepareApplication()
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     dialogs::SetBeforeBoxHook(ADODB::CommitGroups);
     ADODB::EngineHooks().progress = host::DoEvents;
-    // Who works longer than the engine keeps his own pointer.
-    ADODB::EngineHooks().busy = [before = host::MousePointer()](bool busy) mutable {
-        if (busy)
-            before = host::MousePointer();
-        host::SetMousePointer(busy ? static_cast<int>(host::PointerHourglass) : before);
+    // Behind the work the pointer is what it was: a search may run under the hourglass, and the work of
+    // one file may begin in a turn of the event loop that the work of another lets through.
+    ADODB::EngineHooks().busy = [before = std::vector<int>()](bool busy) mutable {
+        if (busy) {
+            before.push_back(host::MousePointer());
+            host::SetMousePointer(host::PointerHourglass);
+        } else {
+            host::SetMousePointer(before.back());
+            before.pop_back();
+        }
     };
 }
 

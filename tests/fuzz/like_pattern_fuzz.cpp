@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace
 {
@@ -21,6 +22,9 @@ void TestScanner(std::u32string_view literal, std::string_view text, std::u32str
         const auto finding = scanner.Find(text, vectors);
         Require(!isThere || finding != data::TextScanner::Finding::Absent);
         Require(isThere || finding != data::TextScanner::Finding::Certain);
+        std::vector<size_t> places;
+        const bool areAll = scanner.FindPlaces(text, places, text.size(), vectors);
+        Require(!isThere || !areAll || !places.empty());
     }
 }
 

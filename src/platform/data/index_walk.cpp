@@ -105,9 +105,11 @@ bool IndexWalk::Go(Direction direction)
 
 bool IndexWalk::Take(Prepared &statement)
 {
-    m_open = statement.Step();
-    if (!m_open)
+    // A step that fails puts the statement back to its beginning.
+    m_open = false;
+    if (!statement.Step())
         return false;
+    m_open = true;
     m_word.assign(statement.Text(0));
     m_autoID = statement.Number(1);
     m_hasWordPhrase = !statement.IsNull(2);

@@ -272,7 +272,10 @@ bool LikePattern::MayMatchWithin(std::string_view bytes) const
     return d->scanner.Find(bytes) != TextScanner::Finding::Absent;
 }
 
-bool LikePattern::HasLiteral() const { return d->scanner.IsUseful(); }
+bool LikePattern::FindPlaces(std::string_view bytes, std::vector<size_t> &places, size_t most) const
+{
+    return d->scanner.FindPlaces(bytes, places, most);
+}
 
 const std::u32string &LikePattern::Prefix() const { return d->prefix; }
 

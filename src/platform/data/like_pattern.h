@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace data
 {
@@ -24,10 +25,11 @@ public:
     /// a literal part rules out.
     bool Matches(std::string_view utf8) const;
 
-    /// Whether bytes may hold a text that matches, whatever else they hold. False is exact. Without a
-    /// literal to look for, as HasLiteral tells, it is always true.
+    /// Whether bytes may hold a text that matches, whatever else they hold; false is exact.
     bool MayMatchWithin(std::string_view bytes) const;
-    bool HasLiteral() const;
+    /// Where in such bytes: each text that matches holds one of the places. False, and some of them,
+    /// where there are more than `most`, and for a pattern without a literal to look for.
+    bool FindPlaces(std::string_view bytes, std::vector<size_t> &places, size_t most) const;
 
     /// The folded literal that every match begins with; empty when there is none.
     const std::u32string &Prefix() const;

@@ -1,7 +1,6 @@
 #include "platform/data/query_plan.h"
 
-#include "platform/data/index_walk.h"
-#include "platform/data/row_filter.h"
+#include "platform/data/index_scan.h"
 #include "platform/data/table_scan.h"
 #include "platform/text/fold.h"
 
@@ -17,18 +16,6 @@ namespace
 
 bool IsInIndex(const RowTest &test) { return test.column() == Word || test.IsNumeric(); }
 
-bool PassesLoaded(const RowTest &test, const RowReader &row)
-{
-    if (row.IsNull(test.column()))
-        return false;
-    return test.IsNumeric() ? test.Passes(row.Number(test.column())) : test.Passes(row.Text(test.column()));
-}
-
-bool PassesLoaded(const RowTests &tests, const RowReader &row)
-{
-    return std::ranges::all_of(tests, [&row](const RowTest &test) { return PassesLoaded(test, row); });
-}
-
 /// One row by its number.
 class RowPlan : public QueryPlan
 {
@@ -40,7 +27,7 @@ public:
 
     bool Next(Hit &hit) override
     {
-        if (std::exchange(m_done, true) || !m_row.Load(m_autoID) || !PassesLoaded(m_tests, m_row))
+        if (std::exchange(m_done, true) || !m_row.Load(m_autoID) || !PassesAll(m_tests, m_row))
             return false;
         hit = Hit();
         hit.autoID = m_autoID;
@@ -62,74 +49,62 @@ class IndexPlan : public QueryPlan
 public:
     /// `range` is the number of the key test whose range is walked; -1 for the whole index.
     IndexPlan(RowTests keyTests, int range, RowTests rowTests, Session &session, RowReader &row)
-        : m_filter(std::move(keyTests), range), m_rowTests(std::move(rowTests)), m_walk(session, &m_filter),
-          m_row(row)
+        : m_scan(session, std::move(keyTests), range, row), m_rowTests(std::move(rowTests)), m_row(row)
     {
     }
 
     /// Lets the plan look up no more rows than this; behind them it says that there is no further one.
     void LimitLookUps(int most) { m_mostLookUps = most; }
     /// Whether it stopped at that limit, behind the row of Place.
-    bool IsAtLimit() const { return m_state == State::AtLimit; }
-    const IndexWalk &Place() const { return m_walk; }
+    bool IsAtLimit() const { return m_isAtLimit; }
+    const IndexScan::Entry &Place() const { return m_scan.Current(); }
 
     bool Next(Hit &hit) override
     {
-        if (m_state == State::Ended || m_state == State::AtLimit)
-            return false;
-        bool there =
-            m_state == State::Begun ? m_walk.Next() : m_walk.SeekBehind(m_filter.RangeStart(), kBeforeAllIDs);
-        m_state = State::Begun;
-        for (; there && !m_filter.HasLeftRange(); there = m_walk.Next()) {
+        while (!m_isAtLimit && m_scan.Next()) {
             if (PassesRow()) {
-                hit.autoID = m_walk.AutoID();
+                const IndexScan::Entry &entry = m_scan.Current();
+                hit.autoID = entry.autoID;
                 hit.hasKey = true;
-                hit.word = m_walk.Word();
-                hit.hasWordPhrase = m_walk.HasWordPhrase();
-                hit.wordPhrase = m_walk.WordPhrase();
+                hit.word = entry.word;
+                hit.hasWordPhrase = entry.hasWordPhrase;
+                hit.wordPhrase = entry.wordPhrase;
                 return true;
             }
-            if (m_lookUps == m_mostLookUps) {
-                m_state = State::AtLimit;
-                return false;
-            }
+            m_isAtLimit = m_lookUps == m_mostLookUps;
         }
-        m_state = State::Ended;
         return false;
     }
 
     void Restart() override
     {
-        m_state = State::Fresh;
+        m_scan.Restart();
         m_lookUps = 0;
-        m_filter.Restart();
+        m_isAtLimit = false;
     }
 
 private:
-    enum class State { Fresh, Begun, AtLimit, Ended };
-
     bool PassesRow()
     {
         if (m_rowTests.empty())
             return true;
         ++m_lookUps;
-        return m_row.Load(m_walk.AutoID()) && PassesLoaded(m_rowTests, m_row);
+        return m_row.Load(m_scan.Current().autoID) && PassesAll(m_rowTests, m_row);
     }
 
-    RowFilter m_filter;
+    IndexScan m_scan;
     RowTests m_rowTests;
-    IndexWalk m_walk;
     RowReader &m_row;
-    State m_state = State::Fresh;
     int m_lookUps = 0;
     int m_mostLookUps = -1;
+    bool m_isAtLimit = false;
 };
 
 /// The table in the order of its numbers.
 class TablePlan : public QueryPlan
 {
 public:
-    TablePlan(RowTests tests, Session &session) : m_scan(session, std::move(tests)) {}
+    TablePlan(RowTests tests, Session &session, RowReader &row) : m_scan(session, std::move(tests), row) {}
 
     bool Next(Hit &hit) override
     {
@@ -151,7 +126,7 @@ class SortedPlan : public QueryPlan
 {
 public:
     SortedPlan(RowTests tests, int top, Session &session, RowReader &row)
-        : m_scan(session, std::move(tests)), m_row(row),
+        : m_scan(session, std::move(tests), row), m_row(row),
           m_limit(top < 0 ? std::nullopt : std::optional(std::size_t(top)))
     {
     }
@@ -195,7 +170,7 @@ private:
 
     bool IsWanted() const
     {
-        const std::string_view word = m_scan.Word();
+        const std::string &word = m_scan.Word();
         if (!IsBefore(m_behind.word, m_behind.autoID, word, m_scan.AutoID()))
             return false;
         return !m_limit || m_keys.size() < *m_limit ||
@@ -251,7 +226,7 @@ public:
             if (!m_walk.IsAtLimit())
                 return false;
             m_rest = std::make_unique<SortedPlan>(m_allTests, m_top, m_session, m_row);
-            m_rest->BeginBehind(m_walk.Place().Word(), m_walk.Place().AutoID());
+            m_rest->BeginBehind(m_walk.Place().word, m_walk.Place().autoID);
         }
         return m_rest->Next(hit);
     }
@@ -311,7 +286,7 @@ std::unique_ptr<QueryPlan> PlanFor(const Statement &statement, Session &session,
         (IsInIndex(test) ? keyTests : rowTests).push_back(test);
     const int range = NarrowestRange(keyTests);
     if (!ordered && range < 0 && (tests.empty() || !rowTests.empty()))
-        return std::make_unique<TablePlan>(std::move(tests), session);
+        return std::make_unique<TablePlan>(std::move(tests), session, row);
     if (!ordered || rowTests.empty())
         return std::make_unique<IndexPlan>(std::move(keyTests), range, std::move(rowTests), session, row);
     return std::make_unique<MixedPlan>(std::move(keyTests), range, std::move(rowTests), statement.top,

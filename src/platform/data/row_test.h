@@ -3,6 +3,7 @@
 #include "platform/data/like_pattern.h"
 #include "platform/data/statement.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -25,13 +26,17 @@ public:
     bool Passes(std::string_view text) const;
     bool Passes(qint64 number) const { return number == m_number; }
 
-    /// Whether bytes may hold a text that passes, whatever else they hold; always, where HasLiteral tells
-    /// that there is nothing to look for.
+    /// Whether bytes may hold a text that passes, whatever else they hold; false is exact.
     bool MayPassWithin(std::string_view bytes) const
     {
         return !m_pattern || m_pattern->MayMatchWithin(bytes);
     }
-    bool HasLiteral() const { return m_pattern && m_pattern->HasLiteral(); }
+    /// Where in such bytes: each text that passes holds one of the places. False where these cannot be
+    /// told, or are more than `most`.
+    bool FindPlaces(std::string_view bytes, std::vector<size_t> &places, size_t most) const
+    {
+        return m_pattern && m_pattern->FindPlaces(bytes, places, most);
+    }
 
     /// The folded beginning of every text that passes; empty where there is none.
     const std::u32string &Prefix() const { return m_prefix; }
@@ -51,5 +56,16 @@ private:
 
 /// The conditions of a statement.
 using RowTests = std::vector<RowTest>;
+
+/// Whether a row, which gives its columns as RowReader does, passes all tests. No null passes any.
+template <typename Row> bool PassesAll(const RowTests &tests, const Row &row)
+{
+    return std::ranges::all_of(tests, [&row](const RowTest &test) {
+        const Column column = test.column();
+        if (row.IsNull(column))
+            return false;
+        return test.IsNumeric() ? test.Passes(row.Number(column)) : test.Passes(row.Text(column));
+    });
+}
 
 } // namespace data

@@ -1,45 +1,41 @@
 #pragma once
 
-#include "platform/data/index_walk.h"
-#include "platform/data/leaf_walk.h"
+#include "platform/data/page_scan.h"
 #include "platform/data/row_filter.h"
 
 namespace data
 {
 
 /// Goes through the table's rows that pass a filter, in the order of AutoID, and resumes behind its last
-/// row when the read transaction was released. Pages that lack a literal of the filter are passed over
-/// as bytes.
+/// row when the read transaction was released: in the pages as long as they can be walked, by a statement
+/// otherwise.
 class TableScan
 {
 public:
-    TableScan(Session &session, RowTests tests);
+    TableScan(Session &session, RowTests tests, RowReader &reader);
 
     /// Goes to the next row; false behind the last.
     bool Next();
     void Restart();
 
-    /// The row; its headword stays until the next call or the release of the read transaction.
-    qint64 AutoID() const { return m_last; }
-    std::string_view Word() const { return m_rows.Text(1); }
+    /// The key of the row.
+    qint64 AutoID() const { return m_isInPages ? m_pages.AutoID() : m_autoID; }
+    const std::string &Word() const { return m_isInPages ? m_pages.Word() : m_word; }
 
 private:
-    bool NextRange();
-    bool MayHoldRows() const;
-    bool GoToPageOfInterest();
-    void TakePagesOfInterest();
-    void OpenRange();
+    bool NextOfStatement();
+    void OpenStatement();
 
     Session &m_session;
     RowFilter m_filter;
-    bool m_looksAtPages;
-    LeafWalk m_leaves;
+    PageScan m_pages;
+    bool m_isInPages = true;
+    bool m_isAtEnd = false;
+
     Prepared m_rows;
-    qint64 m_behind = kBeforeAllIDs; ///< the range being read: the rows behind this number
-    qint64 m_upTo = kBeforeAllIDs;   ///< up to this one
-    qint64 m_last = kBeforeAllIDs;
-    bool m_open = false;   ///< m_rows stands in the range
-    bool m_onPage = false; ///< m_leaves stands on the first page behind the range
+    bool m_open = false; ///< m_rows stands on the row
+    std::string m_word;
+    qint64 m_autoID = kBeforeAllIDs;
     quint64 m_generation = 0;
 };
 

@@ -22,9 +22,10 @@ constexpr int kMostMaskedBits = 4;
 constexpr int kMostLeadBits = 2;
 constexpr size_t kStrangerSize = 3;
 constexpr size_t kAnchorCount = 2;
+constexpr size_t kBlocksAtOnce = 4;
 /// Headwords are mostly too short to fill a wide vector and would be searched byte by byte.
 constexpr size_t kLeastForWidest = 64;
-/// The blank's full-width form begins as the Japanese comma does: it would be met all the time.
+/// Kana and Japanese punctuation begin with it.
 constexpr unsigned char kJapaneseLead = 0xE3;
 
 /// Bytes that are compared at once, and what comparing them gives. The compiler makes of them what
@@ -92,12 +93,16 @@ int Commonness(unsigned char byte)
 
 } // namespace
 
+/// Takes a stranger up into the pairs of bytes that are looked for.
 bool TextScanner::Part::AddLead(const Stranger &stranger)
 {
-    const unsigned char first = ByteAt(stranger.bytes, 0);
-    const unsigned char second = ByteAt(stranger.bytes, 1);
+    // The first two bytes serve all full-width letters at once. Those of the full-width blank or of the
+    // wave dash would be met in every Japanese text; the two behind them hardly ever stand together.
+    const size_t at = stranger.bytes.size() == kStrangerSize && ByteAt(stranger.bytes, 0) == kJapaneseLead;
+    const unsigned char first = ByteAt(stranger.bytes, at);
+    const unsigned char second = ByteAt(stranger.bytes, at + 1);
     for (Probe &lead : leads) {
-        if (lead.bytes[0].value != first)
+        if (lead.offsets[0] != at || lead.bytes[0].value != first)
             continue;
         const auto mask = static_cast<unsigned char>(lead.bytes[1].mask |
                                                      ((second | lead.bytes[1].mask) ^ lead.bytes[1].value));
@@ -106,7 +111,7 @@ bool TextScanner::Part::AddLead(const Stranger &stranger)
         lead.bytes[1] = {mask, static_cast<unsigned char>(second | mask)};
         return true;
     }
-    leads.push_back({{0, 1}, {{0, first}, {0, second}}, 2});
+    leads.push_back({{at, at + 1}, {{0, first}, {0, second}}, at + 2});
     return leads.size() <= kMostLeads;
 }
 
@@ -149,8 +154,6 @@ TextScanner::Part TextScanner::PartOf(char32_t folded)
             ++covered;
             for (size_t i = 0; i < own.size(); ++i)
                 masks[i] = static_cast<unsigned char>(masks[i] | (ByteAt(bytes, i) ^ ByteAt(own, i)));
-        } else if (ByteAt(bytes, 0) == kJapaneseLead) {
-            return {};
         } else {
             part.strangers.push_back({bytes.substr(0, kStrangerSize)});
         }
@@ -219,22 +222,26 @@ bool TextScanner::IsStrangerAt(const unsigned char *at, const unsigned char *end
 namespace
 {
 
-/// The first lane that is set; Width where none is.
+using Lane = unsigned long long;
+
+template <size_t Width> [[gnu::always_inline]] inline bool IsAnySet(const typename Vector<Width>::Hits &hits)
+{
+    Lane lanes[Width / sizeof(Lane)];
+    std::memcpy(lanes, &hits, Width);
+    Lane any = 0;
+    for (const Lane lane : lanes)
+        any |= lane;
+    return any != 0;
+}
+
+/// The first place that is set, of which there must be one.
 template <size_t Width>
 [[gnu::always_inline]] inline size_t FirstSet(const typename Vector<Width>::Hits &hits)
 {
-    using Lane = unsigned long long;
-    Lane lanes[Width / sizeof(Lane)];
-    std::memcpy(lanes, &hits, Width);
-    for (size_t lane = 0; lane < std::size(lanes); ++lane) {
-        if (lanes[lane] == 0)
-            continue;
-        size_t hit = lane * sizeof(Lane);
-        while (hits[hit] == 0)
-            ++hit;
-        return hit;
-    }
-    return Width;
+    size_t hit = 0;
+    while (hits[hit] == 0)
+        ++hit;
+    return hit;
 }
 
 } // namespace
@@ -256,58 +263,81 @@ const unsigned char *TextScanner::NextCandidate(const Probe &probe, const unsign
     const Block firstValue = Block{} + firstByte.value;
     const Block secondMask = Block{} + secondByte.mask;
     const Block secondValue = Block{} + secondByte.value;
-    Block first{};
-    Block second{};
+    const auto addHits = [&](size_t place, size_t size, Hits & hits) __attribute__((always_inline))
+    {
+        Block first{};
+        Block second{};
+        std::memcpy(&first, firstAt + place, size);
+        std::memcpy(&second, secondAt + place, size);
+        hits |= ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
+    };
     if (places < Width) {
         // A short text is copied into the block, so that nothing is read beyond it.
-        std::memcpy(&first, firstAt, places);
-        std::memcpy(&second, secondAt, places);
-        const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
-        const size_t hit = FirstSet<Width>(hits);
+        Hits hits{};
+        addHits(0, places, hits);
+        const size_t hit = IsAnySet<Width>(hits) ? FirstSet<Width>(hits) : places;
         return hit < places ? at + hit : nullptr;
     }
-    // The last block overlaps the one before it.
-    for (size_t place = 0;; place = std::min(place + Width, places - Width)) {
-        std::memcpy(&first, firstAt + place, Width);
-        std::memcpy(&second, secondAt + place, Width);
-        const Hits hits = ((first | firstMask) == firstValue) & ((second | secondMask) == secondValue);
-        if (const size_t hit = FirstSet<Width>(hits); hit < Width)
-            return at + place + hit;
+    for (size_t place = 0;; place += Width) {
+        // Blocks without a hit are passed over some at a time.
+        for (; places - place >= kBlocksAtOnce * Width; place += kBlocksAtOnce * Width) {
+            Hits hits{};
+            for (size_t block = 0; block < kBlocksAtOnce; ++block)
+                addHits(place + block * Width, Width, hits);
+            if (IsAnySet<Width>(hits))
+                break;
+        }
+        // The last block overlaps the one before it.
+        place = std::min(place, places - Width);
+        Hits hits{};
+        addHits(place, Width, hits);
+        if (IsAnySet<Width>(hits))
+            return at + place + FirstSet<Width>(hits);
         if (place == places - Width)
             return nullptr;
     }
 }
 
 template <size_t Width>
-TextScanner::Finding TextScanner::FindByBlocks(const unsigned char *begin, const unsigned char *end) const
+const unsigned char *TextScanner::NextByBlocks(const Probe &probe, const unsigned char *at,
+                                               const unsigned char *end) const
 {
-    for (const unsigned char *at = begin; (at = NextCandidate<Width>(m_anchors, at, end)); ++at)
-        if (IsLiteralAt(at, end))
-            return m_part.isExact ? Finding::Certain : Finding::Possible;
-    if (static_cast<size_t>(end - begin) < kLeastForWidest && IsAscii(begin, end))
-        return Finding::Absent;
-    for (const Probe &lead : m_part.leads)
-        for (const unsigned char *at = begin; (at = NextCandidate<Width>(lead, at, end)); ++at)
-            if (IsStrangerAt(at, end))
-                return Finding::Possible;
-    return Finding::Absent;
+    const bool isOfLiteral = &probe == &m_anchors;
+    for (; (at = NextCandidate<Width>(probe, at, end)); ++at)
+        if (isOfLiteral ? IsLiteralAt(at, end) : IsStrangerAt(at, end))
+            return at;
+    return nullptr;
 }
 
-TextScanner::Finding TextScanner::FindBaseline(const unsigned char *begin, const unsigned char *end) const
+const unsigned char *TextScanner::NextBaseline(const Probe &probe, const unsigned char *at,
+                                               const unsigned char *end) const
 {
-    return FindByBlocks<16>(begin, end);
+    return NextByBlocks<16>(probe, at, end);
 }
 
 #ifdef __x86_64__
 [[gnu::target("avx2")]]
 #endif
-TextScanner::Finding
-TextScanner::FindAvx2(const unsigned char *begin, const unsigned char *end) const
+const unsigned char *
+TextScanner::NextAvx2(const Probe &probe, const unsigned char *at, const unsigned char *end) const
 {
-    return FindByBlocks<32>(begin, end);
+    return NextByBlocks<32>(probe, at, end);
 }
 
-TextScanner::Finding TextScanner::Find(std::string_view utf8, [[maybe_unused]] Vectors vectors) const
+/// The first place from `at` on where what the probe belongs to stands: the literal or a stranger; null
+/// for none.
+const unsigned char *TextScanner::Next(const Probe &probe, const unsigned char *at, const unsigned char *end,
+                                       [[maybe_unused]] Vectors vectors) const
+{
+#ifdef __x86_64__
+    static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0;
+    if (hasAvx2 && vectors == Vectors::Widest && static_cast<size_t>(end - at) >= kLeastForWidest)
+        return NextAvx2(probe, at, end);
+#endif
+    return NextBaseline(probe, at, end);
+}
+
+TextScanner::Finding TextScanner::Find(std::string_view utf8, Vectors vectors) const
 {
     if (!IsUseful())
         return Finding::Possible;
@@ -315,12 +345,32 @@ TextScanner::Finding TextScanner::Find(std::string_view utf8, [[maybe_unused]] V
         return Finding::Absent;
     const auto *begin = reinterpret_cast<const unsigned char *>(utf8.data());
     const unsigned char *end = begin + utf8.size();
-#ifdef __x86_64__
-    static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0;
-    if (hasAvx2 && vectors == Vectors::Widest && utf8.size() >= kLeastForWidest)
-        return FindAvx2(begin, end);
-#endif
-    return FindBaseline(begin, end);
+    if (Next(m_anchors, begin, end, vectors) != nullptr)
+        return m_part.isExact ? Finding::Certain : Finding::Possible;
+    if (utf8.size() < kLeastForWidest && IsAscii(begin, end))
+        return Finding::Absent;
+    const bool hasStranger = std::ranges::any_of(
+        m_part.leads, [&](const Probe &lead) { return Next(lead, begin, end, vectors) != nullptr; });
+    return hasStranger ? Finding::Possible : Finding::Absent;
+}
+
+bool TextScanner::FindPlaces(std::string_view bytes, std::vector<size_t> &places, size_t most,
+                             Vectors vectors) const
+{
+    places.clear();
+    if (!IsUseful())
+        return false;
+    const auto *begin = reinterpret_cast<const unsigned char *>(bytes.data());
+    const unsigned char *end = begin + bytes.size();
+    const auto collect = [&](const Probe &probe) {
+        for (const unsigned char *at = begin; (at = Next(probe, at, end, vectors)) != nullptr; ++at) {
+            if (places.size() == most)
+                return false;
+            places.push_back(static_cast<size_t>(at - begin));
+        }
+        return true;
+    };
+    return collect(m_anchors) && std::ranges::all_of(m_part.leads, collect);
 }
 
 } // namespace data

@@ -28,6 +28,12 @@ public:
     /// the view.
     Finding Find(std::string_view utf8, Vectors vectors = Vectors::Widest) const;
 
+    /// Where the literal may stand in bytes that hold texts among others: each text that holds it holds
+    /// one of the places, which come in no order. False, and some of them, where there are more than
+    /// `most`, and without a part to look for.
+    bool FindPlaces(std::string_view bytes, std::vector<size_t> &places, size_t most,
+                    Vectors vectors = Vectors::Widest) const;
+
 private:
     /// It matches a byte that, with the bits of `mask` set, is `value`.
     struct MaskedByte {
@@ -48,7 +54,7 @@ private:
     struct Part {
         std::vector<MaskedByte> bytes;
         std::vector<Stranger> strangers;
-        std::vector<Probe> leads; ///< the pairs of bytes that the strangers begin with
+        std::vector<Probe> leads; ///< the pairs of bytes by which the strangers are looked for
         size_t characters = 0;
         bool isExact = true; ///< the masked bytes match forms of the characters and nothing else
 
@@ -65,10 +71,14 @@ private:
     [[gnu::always_inline]] static inline const unsigned char *
     NextCandidate(const Probe &probe, const unsigned char *at, const unsigned char *end);
     template <size_t Width>
-    [[gnu::always_inline]] inline Finding FindByBlocks(const unsigned char *begin,
-                                                       const unsigned char *end) const;
-    Finding FindBaseline(const unsigned char *begin, const unsigned char *end) const;
-    Finding FindAvx2(const unsigned char *begin, const unsigned char *end) const;
+    [[gnu::always_inline]] inline const unsigned char *
+    NextByBlocks(const Probe &probe, const unsigned char *at, const unsigned char *end) const;
+    const unsigned char *NextBaseline(const Probe &probe, const unsigned char *at,
+                                      const unsigned char *end) const;
+    const unsigned char *NextAvx2(const Probe &probe, const unsigned char *at,
+                                  const unsigned char *end) const;
+    const unsigned char *Next(const Probe &probe, const unsigned char *at, const unsigned char *end,
+                              Vectors vectors) const;
 
     Part m_part;
     Probe m_anchors{}; ///< the two rarest bytes of the part

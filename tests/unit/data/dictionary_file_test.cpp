@@ -173,21 +173,13 @@ TEST_F(DictionaryFile, AFileThatBecomesReadOnlyRefusesWrites)
 TEST_F(DictionaryFile, ForeignLockIsWaitedForTwoSeconds)
 {
     CreateWith({u"a"_s});
-    int toChild[2];
-    int toParent[2];
-    ASSERT_EQ(pipe(toChild), 0);
-    ASSERT_EQ(pipe(toParent), 0);
-    char token = 'x';
-    const pid_t child = fork();
-    if (child == 0) {
-        // A reader that does not let go.
-        const auto view = OpenTable();
-        view->Text("Word");
-        const bool told = write(toParent[1], &token, 1) == 1 && read(toChild[0], &token, 1) == 1;
-        _exit(told ? 0 : 1);
-    }
-    ASSERT_EQ(read(toParent[0], &token, 1), 1);
+    OtherProcess reader([this] {
+        const std::shared_ptr<View> other = OpenTable();
+        other->Text("Word");
+        return other;
+    });
     const auto view = OpenTable();
+    ASSERT_TRUE(reader.Begin());
     EXPECT_EQ(view->Text("Word"), u"a"_s);
     QElapsedTimer timer;
     timer.start();
@@ -195,10 +187,7 @@ TEST_F(DictionaryFile, ForeignLockIsWaitedForTwoSeconds)
     EXPECT_GE(timer.elapsed(), 1900);
     EXPECT_LT(timer.elapsed(), 4000);
     EXPECT_EQ(All().size(), 1U);
-    ASSERT_EQ(write(toChild[1], &token, 1), 1);
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    reader.LetGo();
     view->rows.Update();
     EXPECT_EQ(view->Current(), (Entry{u"b"_s, 2}));
 }
@@ -206,27 +195,14 @@ TEST_F(DictionaryFile, ForeignLockIsWaitedForTwoSeconds)
 TEST_F(DictionaryFile, ReleasedReadsLetAnotherProcessWrite)
 {
     CreateWith({u"a"_s});
-    int toChild[2];
-    ASSERT_EQ(pipe(toChild), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        char token = 0;
-        if (read(toChild[0], &token, 1) != 1)
-            _exit(2);
-        try {
-            OpenTable()->Add(u"b"_s);
-        } catch (const RuntimeError &) {
-            _exit(1);
-        }
-        _exit(0);
-    }
+    OtherProcess writer([this]() -> std::shared_ptr<void> {
+        OpenTable()->Add(u"b"_s);
+        return nullptr;
+    });
     const auto view = OpenTable();
     EXPECT_EQ(view->Text("Word"), u"a"_s);
     ADODB::ReleaseReads();
-    ASSERT_EQ(write(toChild[1], "x", 1), 1);
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(writer.Begin());
     view->rows.MoveNext();
     EXPECT_EQ(view->Current(), (Entry{u"b"_s, 2}));
 }

@@ -1,6 +1,8 @@
 #include "unit/data/dictionary_fixture.h"
 
 #include <QDir>
+#include <algorithm>
+#include <array>
 #include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -39,38 +41,7 @@ QStringList DictionaryTest::Names() const
     return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
-void DictionaryTest::Create(const QString &name) const
-{
-    {
-        ADOX::Catalog catalog;
-        ADOX::Table table;
-        catalog.Create(ConnectionTo(name) + u"Jet OLEDB:Engine Type=5;"_s);
-        table.Name = u"Dictionary"_s;
-        table.AppendColumn(u"Word"_s, ADODB::adVarWChar, 255);
-        table.AppendColumn(u"Pronunciation"_s, ADODB::adVarWChar, 64);
-        table.AppendColumn(u"WordPhrase"_s, ADODB::adSmallInt, 0);
-        table.AppendColumn(u"Description"_s, ADODB::adLongVarWChar, 0);
-        table.AppendColumn(u"Example"_s, ADODB::adLongVarWChar, 0);
-        catalog.AppendTable(table);
-    }
-    ADODB::Connection connection;
-    connection.Open(ConnectionTo(name));
-    ADOX::Catalog catalog;
-    catalog.SetActiveConnection(connection);
-    ADOX::Column column;
-    column.Name = u"AutoID"_s;
-    column.Type = ADODB::adInteger;
-    column.ParentCatalog = &catalog;
-    column.SetProperty(u"AutoIncrement"_s, true);
-    ADOX::Table table = catalog.TableNamed(u"Dictionary"_s);
-    table.AppendColumn(column);
-    ADOX::Key key;
-    key.Name = u"WordID"_s;
-    key.Type = ADOX::adKeyPrimary;
-    key.RelatedTable = u"Dictionary"_s;
-    key.Columns = {u"Word"_s, u"AutoID"_s};
-    table.AppendKey(key, ADOX::adKeyPrimary);
-}
+void DictionaryTest::Create(const QString &name) const { CreateDictionaryFile(Drive(name)); }
 
 void DictionaryTest::CreateWith(const QStringList &words, const QString &name) const
 {
@@ -85,9 +56,7 @@ std::unique_ptr<View> DictionaryTest::OpenTable(const QString &name) const
 {
     auto view = std::make_unique<View>();
     view->connection.Open(ConnectionTo(name));
-    view->rows.Open(u"Dictionary"_s, view->connection, ADODB::adOpenKeyset, ADODB::adLockOptimistic,
-                    ADODB::adCmdTableDirect);
-    view->rows.SetIndex(u"WordID"_s);
+    OpenTableByIndex(view->connection, view->rows);
     return view;
 }
 
@@ -148,6 +117,14 @@ std::string DictionaryTest::AskRaw(const char *sql, const QString &name) const
     return answer;
 }
 
+std::shared_ptr<void> DictionaryTest::LockExclusively(const QString &name) const
+{
+    const std::shared_ptr<sqlite3> database(OpenRaw(Host(name)), sqlite3_close);
+    if (sqlite3_exec(database.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw RuntimeError(RuntimeError::CannotOpenDatabase);
+    return database;
+}
+
 int DictionaryTest::InChild(const std::function<int()> &body)
 {
     const pid_t child = fork();
@@ -163,4 +140,61 @@ int DictionaryTest::InChild(const std::function<int()> &body)
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+OtherProcess::OtherProcess(const std::function<std::shared_ptr<void>()> &begin)
+{
+    std::array<int, 2> toChild{};
+    std::array<int, 2> toParent{};
+    EXPECT_EQ(pipe(toChild.data()), 0);
+    EXPECT_EQ(pipe(toParent.data()), 0);
+    m_child = fork();
+    if (m_child != 0) {
+        close(toChild[0]);
+        close(toParent[1]);
+        m_toChild = toChild[1];
+        m_toParent = toParent[0];
+        return;
+    }
+    close(toChild[1]);
+    const auto wait = [&] {
+        int number = 0;
+        return read(toChild[0], &number, sizeof number) == sizeof number ? number : -1;
+    };
+    if (wait() < 0)
+        _exit(0);
+    char done = 'y';
+    std::shared_ptr<void> kept;
+    try {
+        kept = begin();
+    } catch (const RuntimeError &) {
+        done = 'n';
+    }
+    if (write(toParent[1], &done, 1) == 1)
+        usleep(static_cast<useconds_t>(std::max(wait(), 0)) * 1000);
+    _exit(0);
+}
+
+OtherProcess::~OtherProcess()
+{
+    close(m_toChild);
+    close(m_toParent);
+    waitpid(m_child, nullptr, 0);
+}
+
+bool OtherProcess::Begin() const
+{
+    const int now = 0;
+    char done = 'n';
+    return write(m_toChild, &now, sizeof now) == sizeof now && read(m_toParent, &done, 1) == 1 && done == 'y';
+}
+
+void OtherProcess::LetGo(int after)
+{
+    EXPECT_EQ(write(m_toChild, &after, sizeof after), ssize_t(sizeof after));
+    if (after > 0)
+        return;
+    // What it kept is free when it has gone: its end of the pipe closes.
+    char none = 0;
+    EXPECT_EQ(read(m_toParent, &none, 1), 0);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/pure/dictionary_file.h"
 #include "platform/data/adodb.h"
 #include "platform/data/adox.h"
 #include "platform/failure/fault_points.h"
@@ -8,6 +9,7 @@
 #include "platform/files/file_operations.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -50,6 +52,28 @@ struct View {
     }
 };
 
+/// Another process that does something when it is told and keeps what it got until it is let go. It has to
+/// be there before this one opens the files that it uses.
+class OtherProcess
+{
+public:
+    /// `begin` returns what is kept.
+    explicit OtherProcess(const std::function<std::shared_ptr<void>()> &begin);
+    ~OtherProcess();
+    OtherProcess(const OtherProcess &) = delete;
+    OtherProcess &operator=(const OtherProcess &) = delete;
+
+    /// Runs `begin` there; false where it raised.
+    bool Begin() const;
+    /// Lets go, after so many milliseconds; returns at once.
+    void LetGo(int after = 0);
+
+private:
+    int m_toChild = -1;
+    int m_toParent = -1;
+    int m_child = -1;
+};
+
 /// A test with a folder of its own, nothing injected and no hooks.
 class DictionaryTest : public testing::Test
 {
@@ -64,11 +88,11 @@ protected:
     }
     QString ConnectionTo(const QString &name = QStringLiteral("a.mdb")) const
     {
-        return QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=%1;").arg(Drive(name));
+        return ViewConnectionString(Drive(name));
     }
     QStringList Names() const;
 
-    /// Makes a new file in the two steps of the program.
+    /// Makes a new file as the program does.
     void Create(const QString &name = QStringLiteral("a.mdb")) const;
     /// A new file with these headwords, in this order.
     void CreateWith(const QStringList &words, const QString &name = QStringLiteral("a.mdb")) const;
@@ -88,6 +112,9 @@ protected:
     void RunRaw(const char *sql, const QString &name = QStringLiteral("a.mdb")) const;
     /// The text in the first column of the first row.
     std::string AskRaw(const char *sql, const QString &name = QStringLiteral("a.mdb")) const;
+
+    /// Begins a write transaction on the file that keeps everybody else out until it goes.
+    std::shared_ptr<void> LockExclusively(const QString &name = QStringLiteral("a.mdb")) const;
 
     /// Runs `body` in a process of its own; its exit code, or -1 when it was killed.
     static int InChild(const std::function<int()> &body);

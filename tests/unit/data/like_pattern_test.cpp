@@ -5,6 +5,7 @@
 #include "platform/text/fold.h"
 #include "unit/text/comparison_cases.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -239,7 +240,7 @@ public:
 
     QString Text(size_t longest)
     {
-        static const std::u32string kAlphabet = U"aaAａbBkKK -　かカｶがガｶﾞﾞ漢字é";
+        static const std::u32string kAlphabet = U"aaAａbBkKK -　~～〜かカｶがガｶﾞﾞ漢字é";
         QString text;
         for (size_t length = Below(longest + 1); length > 0; --length)
             text.append(QStringView(QChar::fromUcs4(kAlphabet[Below(kAlphabet.size())])));
@@ -333,6 +334,50 @@ TEST(TextScanner, MissesNoLiteralWhereverItStands)
     }
 }
 
+// Texts side by side as in a page: none that holds the literal is without a place.
+TEST(TextScanner, FindsAPlaceInEveryTextThatHoldsTheLiteral)
+{
+    constexpr size_t most = 4;
+    RandomPatterns random(9);
+    int sparse = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const std::u32string literal = text::Fold(random.Text(4)).folded;
+        if (literal.empty())
+            continue;
+        const TextScanner scanner(literal);
+        std::string page;
+        std::vector<std::pair<size_t, size_t>> holders;
+        for (size_t count = 2 + random.Below(8); count > 0; --count) {
+            const QString text = random.Text(10);
+            const size_t begin = page.size();
+            page += Utf8(text);
+            if (text::Fold(text).folded.find(literal) != std::u32string::npos)
+                holders.emplace_back(begin, page.size());
+            page.append(random.Below(40), '\x05');
+        }
+        const ExactText exact(page);
+        for (const auto vectors : {TextScanner::Vectors::Widest, TextScanner::Vectors::Baseline}) {
+            std::vector<size_t> all;
+            ASSERT_TRUE(scanner.FindPlaces(exact.View(), all, SIZE_MAX, vectors));
+            for (const auto &[begin, end] : holders)
+                ASSERT_TRUE(std::ranges::any_of(all, [begin = begin, end = end](size_t place) {
+                    return place >= begin && place < end;
+                })) << page;
+            std::vector<size_t> few{99};
+            const bool areFew = scanner.FindPlaces(exact.View(), few, most, vectors);
+            ASSERT_EQ(areFew, all.size() <= most);
+            sparse += areFew;
+            if (areFew) {
+                ASSERT_EQ(few, all);
+            }
+        }
+    }
+    EXPECT_GT(sparse, 1000);
+    std::vector<size_t> places{1};
+    EXPECT_FALSE(TextScanner(U"").FindPlaces("text", places, most));
+    EXPECT_TRUE(places.empty());
+}
+
 TEST(TextScanner, RulesOutWhatIsNotThere)
 {
     constexpr std::pair<std::u32string_view, QStringView> kAbsent[] = {
@@ -341,6 +386,8 @@ TEST(TextScanner, RulesOutWhatIsNotThere)
         {U"カナ", u"ひらがなとカタカタ"},
         {U"ガ", u"カキクケコかきくけこ"},
         {U"look up", u"a lock, upwards"},
+        {U" ", u"、。「」々〇ぁ倀"},
+        {U"~", u"、。「」々〇ぁ倜（辞書）－"},
         {U"x", u""},
         {std::u32string_view(U"\0", 1), u"short"},
     };
@@ -357,10 +404,15 @@ TEST(TextScanner, IsCertainOfFormsThatNeedNoDecoding)
     EXPECT_EQ(find(U"word", u"a passWORD"), TextScanner::Finding::Certain);
     EXPECT_EQ(find(U"辞書", u"国語辞書"), TextScanner::Finding::Certain);
     EXPECT_EQ(find(U"カナ", u"かな"), TextScanner::Finding::Possible);
-    EXPECT_EQ(find(U"a b", u"a b"), TextScanner::Finding::Possible) << "a part alone proves nothing";
-    EXPECT_FALSE(TextScanner(U" ").IsUseful());
+    EXPECT_EQ(find(U"a b", u"a b"), TextScanner::Finding::Certain);
+    EXPECT_EQ(find(U"a b", u"a　b"), TextScanner::Finding::Possible) << "a full-width blank";
+    EXPECT_EQ(find(U"ab\uFFFDc", u"ab\uFFFDc"), TextScanner::Finding::Possible)
+        << "a part alone proves nothing";
+    EXPECT_EQ(find(U"~", u"犬～猫"), TextScanner::Finding::Possible);
+    EXPECT_EQ(find(U"~", u"犬〜猫"), TextScanner::Finding::Possible);
     EXPECT_FALSE(TextScanner(U"").IsUseful());
-    EXPECT_EQ(find(U" ", u"ab"), TextScanner::Finding::Possible);
+    EXPECT_FALSE(TextScanner(U"\uFFFD").IsUseful());
+    EXPECT_EQ(find(U"\uFFFD", u"ab"), TextScanner::Finding::Possible);
 }
 
 } // namespace

@@ -272,8 +272,14 @@ protected:
 
     static void Add(View &view, const Row &row)
     {
-        const auto orNull = [](const QString &text) { return text.isNull() ? QVariant() : QVariant(text); };
         view.rows.AddNew();
+        Put(view, row);
+    }
+
+    /// Writes the row that stands in the view.
+    static void Put(View &view, const Row &row)
+    {
+        const auto orNull = [](const QString &text) { return text.isNull() ? QVariant() : QVariant(text); };
         view.Set("Word", row.word);
         view.Set("WordPhrase", row.wordPhrase);
         view.Set("Description", orNull(row.description));
@@ -296,10 +302,35 @@ protected:
         return entries;
     }
 
-    void Compare(int rowCount, int searches, unsigned seed) const
+    /// Takes out one row of three, from the middle of pages, and changes and adds some.
+    void Rework(std::vector<Row> &rows, Maker &maker) const
     {
-        Maker maker(seed);
-        const std::vector<Row> rows = Fill(rowCount, maker);
+        const auto view = OpenTable();
+        for (Row &row : rows) {
+            const int kind = maker.Below(6);
+            if (kind > 2)
+                continue;
+            view->rows.Seek(row.word, row.autoID, ADODB::adSeekFirstEQ);
+            if (kind < 2) {
+                view->rows.Delete();
+                row.autoID = 0;
+            } else {
+                const int autoID = row.autoID;
+                row = maker.NewRow(autoID);
+                Put(*view, row);
+            }
+        }
+        std::erase_if(rows, [](const Row &row) { return row.autoID == 0; });
+        for (std::size_t i = rows.size() / 5; i > 0; --i) {
+            Row added = maker.NewRow(0);
+            Add(*view, added);
+            added.autoID = view->Current().autoID;
+            rows.push_back(added);
+        }
+    }
+
+    void Compare(const std::vector<Row> &rows, int searches, Maker &maker) const
+    {
         int found = 0;
         for (int i = 0; i < searches; ++i) {
             const Search search = maker.NewSearch();
@@ -314,6 +345,13 @@ protected:
         EXPECT_GT(found, searches / 10);
         EXPECT_LT(found, searches);
     }
+
+    void Compare(int rowCount, int searches, unsigned seed) const
+    {
+        Maker maker(seed);
+        const std::vector<Row> rows = Fill(rowCount, maker);
+        Compare(rows, searches, maker);
+    }
 };
 
 TEST_F(SearchProperty, FewRows) { Compare(60, 3000, 1); }
@@ -322,6 +360,25 @@ TEST_F(SearchProperty, ManyPages) { Compare(900, 1000, 2); }
 
 // So many that walking the index with look-ups gives way to a scan of the table.
 TEST_F(SearchProperty, MoreRowsThanLookUps) { Compare(6000, 60, 3); }
+
+TEST_F(SearchProperty, PagesWithGaps)
+{
+    Maker maker(5);
+    std::vector<Row> rows = Fill(1500, maker);
+    for (int round = 0; round < 3; ++round) {
+        Rework(rows, maker);
+        Compare(rows, 200, maker);
+    }
+}
+
+// Where the pages cannot be walked past SQLite.
+TEST_F(SearchProperty, FilesLaidOutInAnotherWay)
+{
+    Maker maker(6);
+    const std::vector<Row> rows = Fill(700, maker);
+    RunRaw("PRAGMA journal_mode = WAL");
+    Compare(rows, 300, maker);
+}
 
 TEST_F(SearchProperty, OthersWriteBetweenRows)
 {
@@ -397,6 +454,78 @@ TEST_F(SearchProperty, RareRowsInATreeOfSeveralLevels)
     EXPECT_EQ(Found(search, false).size(), 32767U);
     search.statement = u"SELECT TOP 32767 * FROM Dictionary WHERE Description Like '%珍味%'"_s;
     EXPECT_TRUE(Found(search, false).empty());
+}
+
+// Headwords so long that inner pages of the index have room for few; every one of them stands somewhere
+// in the tree once, some in its inner pages.
+TEST_F(SearchProperty, IndexOfSeveralLevels)
+{
+    Create();
+    constexpr int count = 9000;
+    std::vector<Entry> all;
+    std::vector<Entry> rare;
+    const auto view = OpenBulk();
+    for (int i = 1; i <= count; ++i) {
+        const bool isRare = i == 1 || i == count || i % 701 == 0;
+        const QString word =
+            u"見%1"_s.arg(i, 6, 10, QChar(u'0')) + u"出し語"_s.repeated(80) + (isRare ? u"珍"_s : u""_s);
+        all.push_back({word, i});
+        if (isRare)
+            rare.push_back(all.back());
+        Add(*view, {i, word, 1 + i % 2, u"意味"_s, {}});
+    }
+    view->rows.Close();
+    Search search;
+    search.statement = u"SELECT TOP 32767 * FROM Dictionary WHERE Word Like '%出し%' ORDER BY Word ASC"_s;
+    EXPECT_EQ(Found(search, false), all);
+    EXPECT_EQ(Found(search, true), all);
+    search.statement = u"SELECT TOP 32767 * FROM Dictionary WHERE Word Like '%珍' ORDER BY Word ASC"_s;
+    EXPECT_EQ(Found(search, false), rare);
+    EXPECT_EQ(Found(search, true), rare);
+}
+
+// Rows with one headword fill many pages of the index: only their numbers tell them apart.
+TEST_F(SearchProperty, EqualHeadwords)
+{
+    Create();
+    constexpr int count = 5000;
+    std::vector<Entry> all;
+    const auto view = OpenBulk();
+    for (int i = 1; i <= count; ++i) {
+        all.push_back({i % 2 == 0 ? u"Same"_s : u"ｓａｍｅ"_s, i});
+        Add(*view, {i, all.back().word, 1, {}, {}});
+    }
+    view->rows.Close();
+    Search search;
+    search.statement = u"SELECT TOP 32767 * FROM Dictionary WHERE Word Like '%am%' ORDER BY Word ASC"_s;
+    EXPECT_EQ(Found(search, false), all);
+    EXPECT_EQ(Found(search, true), all);
+}
+
+// Values that this program does not write, but that SQLite keeps: they end the way past SQLite, and
+// nothing is lost or found twice.
+TEST_F(SearchProperty, ForeignValues)
+{
+    CreateWith({u"a1"_s, u"b1"_s, u"o1"_s, u"z1"_s});
+    RunRaw("INSERT INTO Dictionary(Word, Description) VALUES(printf('m%.*c1', 5000, 'm'), 'long')");
+    RunRaw("INSERT INTO Dictionary(Word, WordPhrase, Description) VALUES('n1', 'text', 'foreign')");
+    RunRaw("INSERT INTO Dictionary(Word, WordPhrase, Description) VALUES('p1', 1.5, x'666f726569676e')");
+    const auto numbers = [this](const QString &condition, bool releases) {
+        Search search;
+        search.statement = u"SELECT TOP 99 * FROM Dictionary WHERE "_s + condition;
+        std::vector<int> found;
+        for (const Entry &entry : Found(search, releases))
+            found.push_back(entry.autoID);
+        return found;
+    };
+    for (const bool releases : {false, true}) {
+        EXPECT_EQ(numbers(u"Word Like '%1' ORDER BY Word ASC"_s, releases),
+                  (std::vector{1, 2, 5, 6, 3, 7, 4}));
+        EXPECT_EQ(numbers(u"Description Like '%foreign%'"_s, releases), (std::vector{6, 7}));
+        EXPECT_EQ(numbers(u"Description Like '%long%'"_s, releases), (std::vector{5}));
+        EXPECT_EQ(numbers(u"Word Like '%m1' AND Description Like '%n%' ORDER BY Word ASC"_s, releases),
+                  (std::vector{5}));
+    }
 }
 
 } // namespace
