@@ -1,9 +1,10 @@
 #include "conversion/frmCreateDB.h"
 
+#include "conversion/conversion_boxes.h"
 #include "conversion/pure/database_path.h"
 #include "core/pure/dictionary_file.h"
 #include "core/pure/path_parts.h"
-#include "platform/controls/handler.h"
+#include "platform/controls/connect_handler.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/files/drive_path.h"
 #include "platform/files/file_operations.h"
@@ -17,15 +18,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What a check says: its sound, its buttons and icon, its words.
-struct PathNotice {
-    int beep;
-    int style;
-    QString title;
-    QString text;
-};
-
-PathNotice NoticeOf(PathCheck check, const QString &path)
+/// What a check says.
+ConversionBox NoticeOf(PathCheck check, const QString &path)
 {
     constexpr int told = dialogs::OKOnly + dialogs::Exclamation;
     switch (check) {
@@ -68,10 +62,14 @@ PathNotice NoticeOf(PathCheck check, const QString &path)
             u"別の名前に変更するか既存のファイルを別のフォルダに移動、または削除してから処理を行ってください。"_s};
 }
 
-bool Agrees(const PathNotice &notice)
+ConversionBox DoneBox(const QString &stem)
 {
-    const int answer = dialogs::BeepAndMsgBox(notice.beep, notice.text, notice.style, notice.title);
-    return answer == dialogs::OK || answer == dialogs::Yes;
+    return {
+        host::BeepExclamation, dialogs::OKOnly + dialogs::Information,
+        u"新規辞書データベースファイルの作成完了"_s,
+        u"データベースファイル「"_s + stem +
+            u".mdb」が無事作成されました。Wordmereのデータベースとして使用するためには辞書の登録が必要です。\r\n\r\n"_s
+            u"メニューバーのツールから辞書設定を選び、辞書の登録を行ってください。"_s};
 }
 
 } // namespace
@@ -81,13 +79,10 @@ frmCreateDB::frmCreateDB() : Form(QStringLiteral("frmCreateDB")), m_ui(std::make
     m_ui->setupUi(this);
     SetDialogFrame();
     SetKeyButtons(m_ui->Command2, m_ui->Command3);
-    const auto connectButton = [this](QAbstractButton *button, void (frmCreateDB::*handler)()) {
-        connect(button, &QAbstractButton::clicked, this,
-                [this, handler] { controls::RunHandler([this, handler] { (this->*handler)(); }); });
-    };
-    connectButton(m_ui->Command1, &frmCreateDB::Command1_Click);
-    connectButton(m_ui->Command2, &frmCreateDB::Command2_Click);
-    connectButton(m_ui->Command3, &frmCreateDB::Command3_Click);
+    using controls::ConnectHandler;
+    ConnectHandler(m_ui->Command1, &QPushButton::clicked, this, &frmCreateDB::Command1_Click);
+    ConnectHandler(m_ui->Command2, &QPushButton::clicked, this, &frmCreateDB::Command2_Click);
+    ConnectHandler(m_ui->Command3, &QPushButton::clicked, this, &frmCreateDB::Command3_Click);
 }
 
 frmCreateDB::~frmCreateDB() = default;
@@ -95,9 +90,7 @@ frmCreateDB::~frmCreateDB() = default;
 void frmCreateDB::Form_Load()
 {
     MainWindow()->SetTakesInput(false);
-    adjustSize();
-    setFixedHeight(height());
-    Centre();
+    setFixedHeight(sizeHint().height());
 }
 
 void frmCreateDB::Form_Unload(controls::UnloadReason)
@@ -138,13 +131,7 @@ void frmCreateDB::Command2_Click()
     if (failed != 0)
         return;
     CreateDictionaryFile(m_ui->Text1->Text());
-    const QString stem = StemOfPath(m_ui->Text1->Text(), kStemAlone);
-    dialogs::BeepAndMsgBox(
-        host::BeepExclamation,
-        u"データベースファイル「"_s + stem +
-            u".mdb」が無事作成されました。Wordmereのデータベースとして使用するためには辞書の登録が必要です。\r\n\r\n"_s
-            u"メニューバーのツールから辞書設定を選び、辞書の登録を行ってください。"_s,
-        dialogs::OKOnly + dialogs::Information, u"新規辞書データベースファイルの作成完了"_s);
+    Show(DoneBox(StemOfPath(m_ui->Text1->Text(), kStemAlone)));
     m_ui->Text1->SetText(QString());
 }
 

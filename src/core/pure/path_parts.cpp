@@ -33,7 +33,7 @@ QString StemOfPath(const QString &path, int mode)
     const qsizetype period = LastPositionOf(u'.', trimmed);
     if (period == 0)
         return {};
-    const QString stem = trimmed.first(period - 1);
+    QString stem = trimmed.first(period - 1);
     if (mode != kStemAlone)
         return stem;
     const qsizetype backslash = LastPositionOf(u'\\', stem);
