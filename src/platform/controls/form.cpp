@@ -156,7 +156,13 @@ void Form::Centre()
     move(room.left() + (room.width() - frame.width()) / 2, room.top() + (room.height() - frame.height()) / 2);
 }
 
-void Form::SetOwner(QWidget &owner) { m_owner = &owner; }
+void Form::SetOwner(QWidget &owner)
+{
+    m_owner = &owner;
+    // Desktops keep dialogs above their owners, and other windows not. Minimised, it would leave an owner
+    // that takes no input.
+    setWindowFlags((windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowMinimizeButtonHint)) | Qt::Dialog);
+}
 
 void Form::StandAboveOwner()
 {
@@ -164,7 +170,7 @@ void Form::StandAboveOwner()
     winId();
     windowHandle()->setTransientParent(m_owner->window()->windowHandle());
     const QRect room = m_owner->screen()->availableGeometry();
-    QRect place(QPoint(), size());
+    QRect place(QPoint(), frameGeometry().size());
     place.moveCenter(m_owner->window()->frameGeometry().center());
     place.moveLeft(qMax(room.left(), qMin(place.left(), room.right() + 1 - place.width())));
     place.moveTop(qMax(room.top(), qMin(place.top(), room.bottom() + 1 - place.height())));
@@ -194,6 +200,20 @@ void Form::closeEvent(QCloseEvent *event)
     bool accepts = false;
     RunHandler([this, &accepts] { accepts = AcceptsFrameClose(); });
     event->setAccepted(accepts && Unload(UnloadReason::Frame));
+}
+
+bool Form::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && !m_takesInput)
+        ActivateOwned();
+    return QWidget::event(event);
+}
+
+void Form::ActivateOwned()
+{
+    for (Form *form : std::as_const(loadedForms))
+        if (form->m_owner == this && form->isVisible())
+            form->activateWindow();
 }
 
 void Form::resizeEvent(QResizeEvent *event)

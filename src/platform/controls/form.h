@@ -39,8 +39,8 @@ public:
 
     /// Puts the form in the middle of its screen.
     void Centre();
-    /// The window that this one stays above; it comes up over the middle of it. To be told before the
-    /// form is shown. The two do not share their lives.
+    /// The window that this one stays above; it comes up over the middle of it, and gets the activation
+    /// of one that takes no input. To be told before the form is shown. The two do not share their lives.
     void SetOwner(QWidget &owner);
 
     /// The buttons that Enter and Esc press, where the control that has the focus leaves the key
@@ -65,6 +65,7 @@ protected:
     virtual void Form_MouseMove(const QPoint &) {}
     virtual void Form_Resize() {}
 
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -75,6 +76,7 @@ private:
     void UndoLoad();
     void Leave();
     void StandAboveOwner();
+    void ActivateOwned();
 
     bool m_loaded = false;
     bool m_unloading = false;

@@ -294,8 +294,16 @@ TEST_F(FormTest, ComesUpOverTheMiddleOfItsOwnerAndStaysAboveIt)
     form->SetOwner(*owner);
     form->ShowForm();
     EXPECT_EQ(form->windowHandle()->transientParent(), owner->windowHandle());
+    EXPECT_EQ(form->windowType(), Qt::Dialog);
     EXPECT_EQ(form->parentWidget(), nullptr);
-    EXPECT_LE((form->geometry().center() - owner->frameGeometry().center()).manhattanLength(), 2);
+    EXPECT_LE((form->frameGeometry().center() - owner->frameGeometry().center()).manhattanLength(), 2);
+
+    // Whoever goes to an owner that takes no input is where he can go on.
+    owner->SetTakesInput(false);
+    owner->activateWindow();
+    EXPECT_TRUE(input::Until([&] { return form->isActiveWindow(); }));
+    owner->SetTakesInput(true);
+    EXPECT_TRUE(input::Until([&] { return owner->isActiveWindow(); }));
 
     // No part of it beyond the screen, nor moved when it is shown again.
     form->move(3, 4);
@@ -307,7 +315,7 @@ TEST_F(FormTest, ComesUpOverTheMiddleOfItsOwnerAndStaysAboveIt)
     other->resize(200, 100);
     other->SetOwner(*owner);
     other->ShowForm();
-    EXPECT_TRUE(room.contains(other->geometry()));
+    EXPECT_TRUE(room.contains(other->frameGeometry()));
     delete owner;
     EXPECT_TRUE(form) << "the two do not share their lives";
 }
