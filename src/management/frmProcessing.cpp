@@ -10,7 +10,7 @@ frmProcessing::frmProcessing() : Form(QStringLiteral("frmProcessing"))
 {
     Ui::frmProcessing controls;
     controls.setupUi(this);
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     adjustSize();
     setFixedSize(size());
 }

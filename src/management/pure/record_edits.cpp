@@ -57,7 +57,7 @@ RecordKey ReplaceRow(ADODB::Recordset &table, const RecordKey &old, const Record
     table.Seek(old.word, old.autoID, ADODB::adSeekFirstEQ);
     if (table.Eof())
         throw RuntimeError(RuntimeError::NoCurrentRow);
-    const RecordKey added = AddRow(table, values);
+    RecordKey added = AddRow(table, values);
     try {
         DeleteRow(table, old);
     } catch (const RuntimeError &) {

@@ -109,6 +109,10 @@ void Form::StandAbove(const Form &owner)
 {
     // A parent widget would do the same, but a child window dies with its parent, and above one that
     // holds the pane it is not painted.
+    m_owner = &owner;
+    // Desktops keep dialogs above their owners, and other windows not. Minimised, it would leave an owner
+    // that takes no input.
+    setWindowFlags((windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowMinimizeButtonHint)) | Qt::Dialog);
     if (!testAttribute(Qt::WA_Resized))
         adjustSize();
     create();
@@ -229,6 +233,20 @@ void Form::closeEvent(QCloseEvent *event)
     bool accepts = false;
     RunHandler([this, &accepts] { accepts = AcceptsFrameClose(); });
     event->setAccepted(accepts && Unload(UnloadReason::Frame));
+}
+
+bool Form::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && !m_takesInput)
+        ActivateOwned();
+    return QWidget::event(event);
+}
+
+void Form::ActivateOwned()
+{
+    for (Form *form : std::as_const(loadedForms))
+        if (form->m_owner == this && form->isVisible())
+            form->activateWindow();
 }
 
 void Form::resizeEvent(QResizeEvent *event)

@@ -24,8 +24,9 @@ public:
     /// disabled, and goes on to the caller.
     void Load();
     /// Loads if need be, and shows the form. All return at once. ShowAbove keeps it above another window
-    /// for good; ShowModal does so above the form shown last that owns such, and blocks every other window.
-    /// Both put it over the middle of that window unless its load has placed it.
+    /// for good, and gives it the activation of one that takes no input; ShowModal does so above the form
+    /// shown last that owns such, and blocks every other window. Both put it over the middle of that window
+    /// unless its load has placed it.
     void ShowForm();
     void ShowAbove(const Form &owner);
     void ShowModal();
@@ -71,6 +72,7 @@ protected:
     virtual void Form_MouseMove(const QPoint &) {}
     virtual void Form_Resize() {}
 
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -81,6 +83,7 @@ private:
     void UndoLoad();
     void StandAbove(const Form &owner);
     void Leave();
+    void ActivateOwned();
 
     bool m_loaded = false;
     bool m_unloading = false;
@@ -88,6 +91,7 @@ private:
     bool m_centred = false;
     QList<QPointer<Form>> m_disabledWhileLoading;
     QPointer<Form> m_holder;
+    QPointer<const Form> m_owner;
     QPointer<QAbstractButton> m_enterButton;
     QPointer<QAbstractButton> m_escapeButton;
 };

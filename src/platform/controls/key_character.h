@@ -21,4 +21,12 @@ inline int CharacterOf(const QKeyEvent &event)
     return text.isEmpty() ? -1 : text.front().unicode();
 }
 
+/// Whether a key is a mnemonic that no control took: a text box would type its character.
+inline bool IsLostMnemonic(const QKeyEvent &event)
+{
+    const QString text = event.text();
+    return event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier) &&
+           !text.isEmpty() && text.front().isPrint();
+}
+
 } // namespace controls

@@ -1,5 +1,6 @@
 #include "platform/controls/multi_line_box.h"
 
+#include "platform/controls/key_character.h"
 #include "platform/controls/white_base.h"
 
 #include <QInputMethodEvent>
@@ -43,6 +44,10 @@ void MultiLineBox::SetText(const QString &value)
 
 void MultiLineBox::keyPressEvent(QKeyEvent *event)
 {
+    if (IsLostMnemonic(*event)) {
+        event->ignore();
+        return;
+    }
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isEnter || event->modifiers() == Qt::NoModifier)
         return QPlainTextEdit::keyPressEvent(event);

@@ -42,6 +42,10 @@ void TextBox::CaretToEnd()
 
 void TextBox::keyPressEvent(QKeyEvent *event)
 {
+    if (IsLostMnemonic(*event)) {
+        event->ignore();
+        return;
+    }
     const int key = event->key();
     const int character = CharacterOf(*event);
     if (m_composing) {

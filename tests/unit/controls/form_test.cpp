@@ -352,8 +352,16 @@ TEST_F(FormTest, ComesUpOverTheMiddleOfItsOwnerAndStaysAboveIt)
     form->resize(200, 100);
     form->ShowAbove(*owner);
     EXPECT_EQ(form->windowHandle()->transientParent(), owner->windowHandle());
+    EXPECT_EQ(form->windowType(), Qt::Dialog);
     EXPECT_EQ(form->parentWidget(), nullptr);
     EXPECT_LE((form->geometry().center() - owner->frameGeometry().center()).manhattanLength(), 4);
+
+    // Whoever goes to an owner that takes no input is where he can go on.
+    owner->SetTakesInput(false);
+    owner->activateWindow();
+    EXPECT_TRUE(input::Until([&] { return form->isActiveWindow(); }));
+    owner->SetTakesInput(true);
+    EXPECT_TRUE(input::Until([&] { return owner->isActiveWindow(); }));
 
     // No part of it beyond the screen, nor moved when it is shown again.
     form->move(3, 4);

@@ -97,6 +97,15 @@ TEST(MultiLineBox, EnterEndsALineWithShiftToo)
     EXPECT_EQ(box.Text(), u"a\r\n\r\nb"_s);
 }
 
+TEST(MultiLineBox, AMnemonicThatNobodyTookTypesNothing)
+{
+    MultiLineBox box;
+    input::Key(box, Qt::Key_V, u"v"_s, Qt::AltModifier);
+    EXPECT_EQ(box.Text(), QString());
+    input::Key(box, Qt::Key_At, u"@"_s, Qt::AltModifier | Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"@"_s);
+}
+
 TEST(MultiLineBox, CopiesItsCharactersAsTheyAre)
 {
     MultiLineBox from, to;

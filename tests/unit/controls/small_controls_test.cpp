@@ -49,6 +49,15 @@ TEST(TextBox, NoCharacterIsCutInHalfAtTheGreatestLength)
     EXPECT_EQ(box.Text(), QStringLiteral("axbc"));
 }
 
+TEST(TextBox, AMnemonicThatNobodyTookTypesNothing)
+{
+    TextBox box;
+    input::Key(box, Qt::Key_V, QStringLiteral("v"), Qt::AltModifier);
+    EXPECT_EQ(box.Text(), QString());
+    input::Key(box, Qt::Key_V, QStringLiteral("v"));
+    EXPECT_EQ(box.Text(), QStringLiteral("v"));
+}
+
 TEST(TextBox, ComposedTextIsLeftAlone)
 {
     TextBox box;

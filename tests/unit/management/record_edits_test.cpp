@@ -175,7 +175,7 @@ TEST_F(RecordEdits, SurviveBeingKilled)
             << "round " << round;
         EXPECT_EQ(AskRaw("PRAGMA quick_check"), "ok");
     }
-    EXPECT_GT(edits, 75) << "not all of them alone";
+    EXPECT_GT(edits, 50) << "more than the first one of each round";
 }
 
 } // namespace

@@ -19,26 +19,24 @@ QByteArray Store(std::initializer_list<qint32> numbers)
 
 struct Removal {
     const char *what;
-    QByteArray before;
-    qint32 autoID;
-    QByteArray after;
-    qint32 position;
+    QByteArray before, after;
+    qint32 autoID, position;
 };
 
 TEST(ResultRemoval, TakesTheHitOutAndKeepsTheOthersByteForByte)
 {
     const QByteArray tail = Store({9}).first(300);
     const Removal table[] = {
-        {"the first", Store({1, 2, 3}), 1, Store({2, 3}), 0},
-        {"one between", Store({1, 2, 3}), 2, Store({1, 3}), 1},
-        {"the last", Store({1, 2, 3}), 3, Store({1, 2}), 2},
-        {"the only one", Store({7}), 7, {}, 0},
-        {"none", Store({1, 2}), 5, Store({1, 2}), -1},
-        {"an empty store", {}, 5, {}, -1},
-        {"the later of two", Store({4, 1, 4, 2}), 4, Store({1, 2}), 2},
-        {"digits within others", Store({1, 11, 111}), 11, Store({1, 111}), 1},
-        {"a long tail reads as a record", Store({1}) + tail, 1, tail.leftJustified(520, '\0'), 0},
-        {"a short tail is none", Store({1, 2}) + QByteArray(259, 'x'), 2, Store({1}), 1},
+        {"the first", Store({1, 2, 3}), Store({2, 3}), 1, 0},
+        {"one between", Store({1, 2, 3}), Store({1, 3}), 2, 1},
+        {"the last", Store({1, 2, 3}), Store({1, 2}), 3, 2},
+        {"the only one", Store({7}), {}, 7, 0},
+        {"none", Store({1, 2}), Store({1, 2}), 5, -1},
+        {"an empty store", {}, {}, 5, -1},
+        {"the later of two", Store({4, 1, 4, 2}), Store({1, 2}), 4, 2},
+        {"digits within others", Store({1, 11, 111}), Store({1, 111}), 11, 1},
+        {"a long tail reads as a record", Store({1}) + tail, tail.leftJustified(520, '\0'), 1, 0},
+        {"a short tail is none", Store({1, 2}) + QByteArray(259, 'x'), Store({1}), 2, 1},
     };
     for (const Removal &row : table) {
         const ResultRemoval removal = WithoutResult(row.before, row.autoID);
