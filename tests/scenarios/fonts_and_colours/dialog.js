@@ -147,6 +147,28 @@ for (const close of [() => click("frmColorSelect.Command10"), () => closeForm("f
     exit();
 }
 
+// By keys alone.
+start();
+open();
+press(button(0), "Tab");
+check(focused(), "frmColorSelect.Command1", "Tab goes down the rows");
+answerFont({size: 16});
+press(button(1), "Enter");
+check(boxes().length, 1, "Enter presses the button with the focus");
+check(fontOf(sample(1)).size, 16, "and its row changes");
+press(button(8), "Tab");
+check(focused(), "frmColorSelect.Command9", "behind the rows the saving");
+answer("OK");
+press("frmColorSelect.Command9", "Enter");
+check(boxes().length, 1, "saved");
+press("frmColorSelect.Command9", "Tab");
+check(focused(), "frmColorSelect.Command10", "then the closing");
+press("frmColorSelect.Command10", "Tab");
+check(focused(), "frmColorSelect.Label1", "the heading can be reached too");
+press("frmColorSelect.Label1", "Esc");
+check(isOpen("frmColorSelect"), false, "Esc closes");
+exit();
+
 // The label's own colour belongs to no row.
 start();
 open();
