@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
+#include <utility>
 
 namespace browser
 {
@@ -86,6 +87,8 @@ void RecordingPane::Find(const QString &text, bool backward, const std::function
     for (QTextCursor match = document->find(text); !text.isEmpty() && !match.isNull();
          match = document->find(text, match))
         matches.append(match);
+    // A text that grows letter by letter is looked for from where its beginning was found.
+    const bool isSameText = std::exchange(m_foundText, text) == text;
     if (matches.isEmpty()) {
         found(0, 0);
         return;
@@ -99,7 +102,7 @@ void RecordingPane::Find(const QString &text, bool backward, const std::function
         if (matches[active].selectionStart() >= from)
             active = matches.size() - 1;
     } else {
-        const bool stands = m_view->textCursor().hasSelection();
+        const bool stands = isSameText && m_view->textCursor().hasSelection();
         while (active < matches.size() &&
                (stands ? matches[active].selectionStart() <= from : matches[active].selectionStart() < from))
             ++active;

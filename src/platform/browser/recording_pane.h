@@ -40,6 +40,7 @@ private:
     QTextBrowser *m_view;
     QList<QUrl> m_history;
     qsizetype m_place = -1;
+    QString m_foundText;
 };
 
 } // namespace browser
