@@ -9,7 +9,9 @@
 
 #include <QFile>
 #include <QUrl>
+#include <chrono>
 #include <limits>
+#include <optional>
 #include <sqlite3.h>
 #include <string>
 
@@ -88,19 +90,22 @@ qint64 CountInOrder(Session &session)
     return count;
 }
 
-void Verify(Session &session)
+void Verify(Session &session, std::optional<qint64> sourceRows)
 {
-    // On threads of their own, while this one walks the index. The file is nobody else's: that closing it
-    // elsewhere gives up the locks of the process does not matter.
-    StructureCheck structure(session.HostPath());
+    // On threads of their own, while this one counts. The file is nobody else's: that closing it elsewhere
+    // gives up the locks of the process does not matter.
+    std::future<bool> isSound = CheckStructure(session.HostPath());
     FileFlush flush(session.HostPath());
-    const qint64 expected = session.NumberOf("SELECT count(*) FROM source.Dictionary NOT INDEXED");
+    const qint64 expected =
+        sourceRows ? *sourceRows : session.NumberOf("SELECT count(*) FROM source.Dictionary NOT INDEXED");
     if (session.NumberOf("SELECT count(*) FROM main.Dictionary NOT INDEXED") != expected ||
         CountInOrder(session) != expected)
         RaiseBadCopy();
-    AwaitLongWork([&] { return structure.IsDone() && flush.IsDone(); });
+    AwaitLongWork([&] {
+        return isSound.wait_for(std::chrono::seconds(0)) == std::future_status::ready && flush.IsDone();
+    });
     flush.Finish();
-    if (!structure.Passed())
+    if (!isSound.get())
         RaiseBadCopy();
 }
 
@@ -112,8 +117,10 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
     session.Run("PRAGMA journal_mode = MEMORY");
     session.Run("PRAGMA synchronous = OFF");
     Attach(session, sourcePath);
+    // Counted while it is copied.
+    std::future<std::optional<qint64>> sourceRows = CountRows(sourcePath);
     session.Write([&] { DoLongWork(session, [&] { CopyRows(session, withIndex); }); });
-    DoLongWork(session, [&] { Verify(session); });
+    DoLongWork(session, [&] { Verify(session, sourceRows.get()); });
     session.Run("DETACH source");
     session.Run("PRAGMA synchronous = FULL");
     session.Write([&] { WriteMarks(session); });

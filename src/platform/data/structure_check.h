@@ -2,24 +2,18 @@
 
 #include <QString>
 #include <future>
+#include <optional>
 
 namespace data
 {
 
-/// The engine's check of a file's structure, done on a thread and a connection of its own, for it is one
-/// step that nothing can interrupt. The file must stay as it is meanwhile. The destructor waits.
-class StructureCheck
-{
-public:
-    /// Begins the check of the file at a host path.
-    explicit StructureCheck(const QString &hostPath);
+// Steps of the engine that nothing can interrupt, each on a thread and a connection of its own. What they
+// give back waits for their end when it is destroyed.
 
-    bool IsDone() const;
-    /// Waits for the end; whether the file is sound.
-    bool Passed() { return m_result.get(); }
+/// Checks the structure of the file at a host path, which must stay as it is meanwhile; whether it is sound.
+std::future<bool> CheckStructure(const QString &hostPath);
 
-private:
-    std::future<bool> m_result;
-};
+/// Counts the rows of the dictionary file at a host path; none where it could not be read.
+std::future<std::optional<qint64>> CountRows(const QString &hostPath);
 
 } // namespace data

@@ -226,10 +226,14 @@ TEST_F(Compaction, ASourceThatAnotherProgramLocksIsWaitedForAndTold)
 TEST_F(Compaction, TheStructureCheckFindsDamage)
 {
     CreateSparse();
-    EXPECT_TRUE(data::StructureCheck(Host()).Passed());
+    const qint64 stored = All(u"a.mdb"_s).size();
+    ASSERT_GT(stored, 0);
+    EXPECT_TRUE(data::CheckStructure(Host()).get());
+    EXPECT_EQ(data::CountRows(Host()).get(), stored);
     DamageAPage();
-    EXPECT_FALSE(data::StructureCheck(Host()).Passed());
-    EXPECT_FALSE(data::StructureCheck(Host(u"none.mdb"_s)).Passed());
+    EXPECT_FALSE(data::CheckStructure(Host()).get());
+    EXPECT_FALSE(data::CheckStructure(Host(u"none.mdb"_s)).get());
+    EXPECT_EQ(data::CountRows(Host(u"none.mdb"_s)).get(), std::nullopt);
 }
 
 TEST_F(Compaction, AFlushTellsWhatItCannotReach)
