@@ -135,7 +135,8 @@ TEST_F(ShippedHelp, TellsWhereverItIsCut)
 
 TEST_F(ShippedHelp, HasATopicForEachForm)
 {
-    for (const QString &form : {u"frmFind"_s, u"frmHelp"_s, u"frmAbout"_s})
+    for (const QString &form :
+         {u"frmFind"_s, u"frmHelp"_s, u"frmAbout"_s, u"frmSpeaking"_s, u"frmSpeakingSetting"_s})
         EXPECT_GE(m_book.Find(form), 0) << qPrintable(form);
 }
 
