@@ -77,7 +77,8 @@ void agent::Balloon::ShowWord(qsizetype position, qsizetype length)
     cursor.setCharFormat(format);
     if (!isVisible() && !m_figure.isEmpty())
         show();
-    update();
+    // At once, for a new page has a new shape already.
+    repaint();
 }
 
 void agent::Balloon::End() { m_end.start(); }

@@ -65,7 +65,7 @@ public:
         m_sink = std::make_unique<QAudioSink>(m_device, format);
         // Enough for a window that is busy for a while.
         constexpr int partOfSecond = 2;
-        m_sink->setBufferSize(rate / partOfSecond * static_cast<int>(sizeof(std::int16_t)));
+        m_sink->setBufferSize(static_cast<qsizetype>(sizeof(std::int16_t)) * (rate / partOfSecond));
         m_channel = m_sink->start();
         m_sinceProgress.start();
         return m_channel != nullptr && m_sink->error() == QAudio::NoError;
