@@ -22,7 +22,6 @@
 namespace
 {
 
-QString AgentFile() { return QStringLiteral("AgentDefi.dat"); }
 QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
 
 void MoveTo(QWidget *control, int left)
@@ -140,25 +139,6 @@ void frmFind::CheckHelpFile()
                                    "削除されています！ Wordmere は起動しますが、\r\n"
                                    "ヘルプファイルは参照できません。"),
                     dialogs::Exclamation, QStringLiteral("ヘルプファイル未検出"));
-}
-
-void frmFind::LoadCharacter()
-{
-    const QString path = AppFilePath(AgentFile());
-    if (!files::Exists(path))
-        files::Replace(path, EncodeAgentSettings(DefaultAgentSettings()));
-    const AgentSettings settings =
-        DecodeAgentSettings(files::FixedRecordFile(path, kAgentRecordLength).Read(1));
-    Shared.CharacterFolder = settings.folder == DefaultAgentSettings().folder
-                                 ? WindowsFolderRoot() + QStringLiteral("\\msagent\\Chars")
-                                 : settings.folder;
-    Shared.CharacterFile = settings.file;
-    if (Shared.CharacterFile.isEmpty())
-        Shared.CharacterFile = files::Matching(Shared.CharacterFolder, QStringLiteral("*.acs")).value(0);
-    Shared.NoCharacterFile = Shared.CharacterFile.isEmpty();
-    Shared.SpeechEnabled = Shared.NoCharacterFile ? std::uint8_t{0} : settings.enabled;
-    Shared.CharacterPath = Shared.CharacterFolder + u'\\' + Shared.CharacterFile;
-    Shared.CharacterID = CharacterIdFromFile(Shared.CharacterFile);
 }
 
 void frmFind::PrepareEntryPaging()

@@ -11,6 +11,11 @@
 #include <memory>
 #include <optional>
 
+namespace agent
+{
+class Character;
+}
+
 /// All state that more than one form needs, at its initial values.
 struct SharedState {
     std::uint8_t SearchMode = ModeIncremental;
@@ -66,6 +71,8 @@ struct SharedState {
     QString CharacterFolder, CharacterFile, CharacterPath, CharacterID;
     std::uint8_t CharacterMoved = 0;
     bool NoCharacterFile = false;
+    /// The loaded character; none while speech is off.
+    agent::Character *Character = nullptr;
 };
 
 /// The one instance.

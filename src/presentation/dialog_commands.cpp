@@ -16,6 +16,8 @@
 #include "presentation/frmColorSelect.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
+#include "speech/frmSpeaking.h"
+#include "speech/frmSpeakingSetting.h"
 
 #include <QMenu>
 
@@ -97,12 +99,21 @@ void frmFind::Picture10_MouseDown()
 
 void frmFind::Picture28_MouseDown()
 {
-    // No character is ever loaded, whatever the settings say.
-    constexpr bool isSpeechAvailable = false;
-    Refused(SpeechNotice(isSpeechAvailable));
+    if (Refused(SpeechNotice(Shared.SpeechEnabled == 1 && Shared.Character)))
+        return;
+    constexpr auto name = u"frmSpeaking";
+    if (controls::Form *open = Named(QString::fromUtf16(name))) {
+        open->showNormal();
+        open->raise();
+        open->activateWindow();
+        return;
+    }
+    (new frmSpeaking)->ShowAbove(*this);
 }
 
 void frmFind::mnuColorSel_Click() { (new frmColorSelect)->ShowModal(); }
+
+void frmFind::mnuSpeakingSetting_Click() { (new frmSpeakingSetting)->ShowModal(); }
 
 void frmFind::mnuTopicSearch_Click() { host::WinHelp(HelpFilePath(), host::HelpFinder); }
 

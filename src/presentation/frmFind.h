@@ -12,9 +12,14 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class QPushButton;
 namespace ADODB
 {
 class Recordset;
+}
+namespace agent
+{
+class Agent;
 }
 namespace browser
 {
@@ -38,6 +43,10 @@ public:
     controls::ListBox *List1 = nullptr;
     browser::WebBrowser *WebBrowser1 = nullptr;
     controls::StatusBar *StatusBar1 = nullptr;
+    /// The service of the speaking character.
+    agent::Agent *Agent1 = nullptr;
+    /// Hidden: speaks the selection without any checks.
+    QPushButton *Command1 = nullptr;
     /// Picture0 (start) and Picture00 (stop); the others by their number, 1 to 28.
     controls::Picture *Picture0 = nullptr;
     controls::Picture *Picture00 = nullptr;
@@ -164,6 +173,7 @@ public:
     void mnuListSettings_Click();
     /// Opens the menu of reading aloud below its picture.
     void Picture10_MouseDown();
+    void mnuSpeakingSetting_Click();
     void mnuTopicSearch_Click();
     void mnuAbout_Click();
     void Picture12_MouseDown();
@@ -176,6 +186,20 @@ public:
     /// Puts away what the list sizes or the dictionary have made invalid: the list with its store and
     /// its paging, the page and the entry box. The pane goes to the empty page only where it `showsPage`.
     void ResetMainView(bool showsPage);
+
+    // speech/
+    /// Loads a character, which becomes that of the shared state. Raises what loading it raises; then
+    /// none is.
+    void Open_Character(const QString &id, const QString &path);
+    void Close_Character(const QString &id);
+    /// Moves the character into the bottom right corner of the screen.
+    void MoveToCharactor2();
+    /// Says the text of the entry box; tells what stands in the way.
+    void SpeakHeadword();
+    /// Says what is selected in the pane; tells what stands in the way. The clipboard gets back its text,
+    /// but where speech is off.
+    void SpeakSelection();
+    void Command1_Click();
 
     // core/
     void ReadFontFile(const QString &name);
@@ -238,9 +262,10 @@ private:
     void ApplyFonts();
     void ApplySearchTarget();
     void CheckHelpFile();
-    void LoadCharacter();
     void PrepareEntryPaging();
     void LoadPageHeader();
+    // speech/speaking.cpp: one more of them
+    void LoadCharacter();
 
     // presentation/frmFind_controls.cpp
     void MakeControls();

@@ -1,4 +1,7 @@
+#include "core/shared_state.h"
+#include "platform/agent/agent.h"
 #include "platform/browser/web_browser.h"
+#include "platform/controls/connect_handler.h"
 #include "platform/controls/handler.h"
 #include "platform/controls/white_base.h"
 #include "presentation/frmFind.h"
@@ -12,6 +15,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QShowEvent>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -27,9 +31,7 @@ frmFind *theMainWindow = nullptr;
 
 /// The entries that wait, disabled, for the dialogs and views they open.
 constexpr std::array kWaitingEntries{
-    u"mnuGoBack",          u"mnuGoForward",    u"mnuGoHome",
-    u"mnuCancel",          u"mnuReflesh",      u"mnuSrchWebSite",
-    u"mnuSpeakingSetting", u"mnuSpeakKeyWord", u"mnuSpeakSelectedArea",
+    u"mnuGoBack", u"mnuGoForward", u"mnuGoHome", u"mnuCancel", u"mnuReflesh", u"mnuSrchWebSite",
 };
 
 struct Accelerator {
@@ -62,6 +64,8 @@ frmFind::frmFind() : Form(QStringLiteral("frmFind"))
 
 frmFind::~frmFind()
 {
+    // It goes with the service.
+    Shared.Character = nullptr;
     if (theMainWindow == this)
         ForgetMainWindow();
 }
@@ -141,6 +145,10 @@ void frmFind::MakeControls()
     WebBrowser1->setAccessibleName(QStringLiteral("内容"));
     StatusBar1 = named(new controls::StatusBar(m_surface), QStringLiteral("StatusBar1"));
     StatusBar1->setAccessibleName(QStringLiteral("状態"));
+    Agent1 = new agent::Agent(this);
+    Command1 = named(new QPushButton(m_surface), QStringLiteral("Command1"));
+    Command1->setFocusPolicy(Qt::NoFocus);
+    Command1->hide();
 }
 
 void frmFind::MakePictures()
@@ -252,6 +260,10 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuHistory"), &frmFind::mnuHistory_Click, 9);
     Command(QStringLiteral("mnuListSettings"), &frmFind::mnuListSettings_Click);
     Command(QString(), &frmFind::Picture10_MouseDown, 10);
+    Command(QStringLiteral("mnuSpeakingSetting"), &frmFind::mnuSpeakingSetting_Click);
+    Command(QStringLiteral("mnuSpeakKeyWord"), &frmFind::SpeakHeadword);
+    Command(QStringLiteral("mnuSpeakSelectedArea"), &frmFind::SpeakSelection);
+    controls::ConnectHandler(Command1, &QPushButton::clicked, this, &frmFind::Command1_Click);
     Command(QStringLiteral("mnuTopicSearch"), &frmFind::mnuTopicSearch_Click);
     Command(QStringLiteral("mnuAbout"), &frmFind::mnuAbout_Click);
     Command(QString(), &frmFind::Picture12_MouseDown, 12);

@@ -1,10 +1,13 @@
 #include "scenario.h"
 
+#include "platform/agent/agent.h"
+#include "platform/agent/sound_sink.h"
 #include "platform/failure/fault_points.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/file_operations.h"
 #include "platform/host/host.h"
 #include "script_error.h"
+#include "speech_record.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -54,6 +57,10 @@ void Scenario::InstallHooks()
 {
     dialogs::SetPresenter([this](const dialogs::Box &box) { return m_boxes.Present(box); });
     host::SetYieldHook([this] { m_yields.Yield(); });
+    agent::SetCallHook([](const QString &call, const QVariantList &arguments) {
+        RecordSpeech({call, arguments});
+    });
+    agent::SetSinkMaker(agent::MakeSilentSink);
     m_program.OnTrouble([this](const QString &what) { Fail(what); });
 }
 

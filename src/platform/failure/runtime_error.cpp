@@ -27,6 +27,7 @@ constexpr std::array kDescriptions{
     Description{RuntimeError::PermissionDenied, u"書き込みできません。"},
     Description{RuntimeError::PathNotFound, u"パスが見つかりません。"},
     Description{RuntimeError::ObjectNotSet, u"オブジェクト変数が設定されていません。"},
+    Description{RuntimeError::InvalidFileFormat, u"ファイル形式が正しくありません。"},
     Description{RuntimeError::CannotOpenDatabase,
                 u"データベースを開けません。ファイルがないか、使用中か、辞書データベースではありません。"},
     Description{RuntimeError::InvalidStatement, u"検索条件の書き方が正しくありません。"},

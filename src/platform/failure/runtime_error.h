@@ -24,6 +24,7 @@ public:
         PermissionDenied = 70,
         PathNotFound = 76,
         ObjectNotSet = 91,
+        InvalidFileFormat = 321,
         CannotOpenDatabase = -2147467259,
         InvalidStatement = -2147217900,
         ProviderError = -2147217887,

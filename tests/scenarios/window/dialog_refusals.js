@@ -67,7 +67,7 @@ for (const time of ["the first time", "again"]) {
 typeText("frmFind.txtFind", "c");
 mouseDown("frmFind.Picture10");
 check(enabled("mCancel"), true, "the menu of reading aloud can be left");
-check([enabled("mnuSpeakKeyWord"), enabled("mnuSpeakSelectedArea")], [false, false], "what speaks waits");
+check([enabled("mnuSpeakKeyWord"), enabled("mnuSpeakSelectedArea")], [true, true], "what speaks is there");
 check(visible("mPopup"), false, "it does not come into the menu bar");
 menu("mCancel");
 check(text("frmFind.txtFind"), "c", "leaving it changes nothing");

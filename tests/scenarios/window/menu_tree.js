@@ -47,12 +47,12 @@ const entries = [
     ["mnuDicAdd", "辞書設定(&A)...", true, false],
     ["mnuColorSel", "フォントと色の設定(&F)...", true, false],
     ["mnuListSettings", "検索結果のリスト件数設定(&L)...", true, false],
-    ["mnuSpeakingSetting", "キャラクタの設定(&S)...", false, false],
+    ["mnuSpeakingSetting", "キャラクタの設定(&S)...", true, false],
     ["mnuHelp", "ヘルプ(&H)", true, false],
     ["mnuTopicSearch", "トピックの検索(&H)", true, false],
     ["mnuAbout", "バージョン情報(&A)...", true, false],
-    ["mnuSpeakKeyWord", "見出し語の英文発音", false, false],
-    ["mnuSpeakSelectedArea", "選択範囲の英文発音", false, false],
+    ["mnuSpeakKeyWord", "見出し語の英文発音", true, false],
+    ["mnuSpeakSelectedArea", "選択範囲の英文発音", true, false],
     ["mCancel", "キャンセル", true, false],
 ];
 
