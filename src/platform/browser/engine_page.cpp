@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFontDatabase>
+#include <QTimer>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -98,6 +99,11 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
     const bool isWebShown = IsWebPage(url());
     if (!isMainFrame)
         return isWebShown && !target.isLocalFile();
+    if (type == NavigationTypeLinkClicked && url() == m_home && IsWebPage(target)) {
+        // As if it were typed: the site learns nothing of where the user comes from.
+        QTimer::singleShot(0, this, [this, target] { load(target); });
+        return false;
+    }
     const bool byUser =
         type == NavigationTypeTyped || type == NavigationTypeBackForward || type == NavigationTypeReload;
     const bool byServer = type == NavigationTypeRedirect && m_webIsComing;

@@ -14,6 +14,9 @@ class EnginePage : public QWebEnginePage
 public:
     EnginePage(QWebEngineProfile *profile, QObject *parent);
 
+    /// The one local page whose links to the web are followed.
+    void SetHome(const QUrl &url) { m_home = url; }
+
 Q_SIGNALS:
     /// The page about to be shown, or shown, is one from the web.
     void WebPageChanged(bool isWeb);
@@ -24,6 +27,7 @@ protected:
 private:
     void ApplySettings(const QUrl &shown);
 
+    QUrl m_home;
     bool m_webIsComing = false;
 };
 

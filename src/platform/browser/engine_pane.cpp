@@ -166,6 +166,8 @@ void EnginePane::Open(const QUrl &url)
     m_page->load(url);
 }
 
+void EnginePane::SetHome(const QUrl &url) { m_page->SetHome(url); }
+
 void EnginePane::Back()
 {
     if (m_page->history()->canGoBack())

@@ -26,6 +26,7 @@ public:
 
     QWidget *View() override;
     void Open(const QUrl &url) override;
+    void SetHome(const QUrl &url) override;
     void Back() override;
     void Forward() override;
     void Stop() override;

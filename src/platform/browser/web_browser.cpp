@@ -87,6 +87,7 @@ void WebBrowser::CreateView()
     connect(m_pane.get(), &Pane::FindAsked, this, &WebBrowser::ShowFindBar);
     connect(m_findBar, &FindBar::FindRequested, this, &WebBrowser::Find);
     connect(m_findBar, &FindBar::CloseRequested, this, &WebBrowser::CloseFindBar);
+    m_pane->SetHome(UrlOf(m_home));
     const QString waiting = std::exchange(m_waiting, {});
     if (!waiting.isEmpty())
         Open(waiting);
@@ -108,8 +109,6 @@ void WebBrowser::Open(const QString &address)
         Q_EMIT StatusTextChange(QStringLiteral("ページが見つかりません"));
         return;
     }
-    if (m_home.isEmpty())
-        m_home = address;
     m_pane->Open(url);
 }
 
@@ -123,6 +122,13 @@ void WebBrowser::GoForward()
 {
     if (m_pane)
         m_pane->Forward();
+}
+
+void WebBrowser::SetHomePage(const QString &address)
+{
+    m_home = address;
+    if (m_pane)
+        m_pane->SetHome(UrlOf(address));
 }
 
 void WebBrowser::GoHome()

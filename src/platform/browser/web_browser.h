@@ -41,7 +41,9 @@ public:
     /// Back and forward do nothing where there is no page in that direction.
     void GoBack();
     void GoForward();
-    /// Shows the page that was shown first.
+    /// The page that GoHome shows. It is the one local page whose links lead to the web.
+    void SetHomePage(const QString &address);
+    /// Shows the home page; does nothing where there is none.
     void GoHome();
     void Stop();
     void Refresh();

@@ -133,6 +133,8 @@ TEST_P(BrowserTest, GoesBackForwardAndHome)
     const QString first = Write(QStringLiteral("a.html"), QStringLiteral("<p>first</p>"));
     const QString second = Write(QStringLiteral("b.html"), QStringLiteral("<p>second</p>"));
     pane->GoHome();
+    EXPECT_EQ(pane->LocationURL(), QString());
+    pane->SetHomePage(first);
     pane->Navigate(first);
     ASSERT_TRUE(Shows(QStringLiteral("first")));
     pane->Navigate(second);
