@@ -16,6 +16,7 @@
 #include "presentation/frmColorSelect.h"
 #include "presentation/frmFind.h"
 #include "presentation/pure/dialog_checks.h"
+#include "web/frmFavorite.h"
 
 #include <QMenu>
 
@@ -86,6 +87,8 @@ void frmFind::mnuHistory_Click()
     StatusBar1->SetSimpleText(QString());
     (new frmHistory)->ShowModal();
 }
+
+void frmFind::Picture27_MouseDown() { (new frmFavorite)->ShowModal(); }
 
 void frmFind::mnuListSettings_Click() { (new frmListSettings)->ShowModal(); }
 

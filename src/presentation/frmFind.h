@@ -166,6 +166,7 @@ public:
     void mnuTopicSearch_Click();
     void mnuAbout_Click();
     void Picture12_MouseDown();
+    void Picture27_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
     void PressPicture(int number);

@@ -267,6 +267,7 @@ void frmFind::ConnectHandlers()
     Command(QStringLiteral("mnuCancel"), &frmFind::mnuCancel_Click, 24);
     Command(QStringLiteral("mnuReflesh"), &frmFind::mnuReflesh_Click, 25);
     Command(QStringLiteral("mnuGoHome"), &frmFind::mnuGoHome_Click, 26);
+    Command(QString(), &frmFind::Picture27_MouseDown, 27);
     Command(QString(), &frmFind::Picture28_MouseDown, 28);
 
     connect(Picture0, &controls::Picture::MouseDown, this,
@@ -274,14 +275,12 @@ void frmFind::ConnectHandlers()
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array waiting{27};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {
             PictureOf(number)->setFocusPolicy(Qt::NoFocus);
             continue;
         }
-        PictureOf(number)->setEnabled(std::find(waiting.begin(), waiting.end(), number) == waiting.end());
         connect(PictureOf(number), &controls::Picture::MouseMove, this, [this, number] {
             FlatPicture(number);
             RaisePicture(number);

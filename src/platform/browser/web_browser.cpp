@@ -102,11 +102,23 @@ void WebBrowser::Navigate(const QString &address)
         m_waiting = address;
 }
 
+void WebBrowser::NavigateToKept(const QString &address)
+{
+    if (QUrl(address.trimmed()).isLocalFile()) {
+        m_navigations.append(address);
+        TellNotFound();
+        return;
+    }
+    Navigate(address);
+}
+
+void WebBrowser::TellNotFound() { Q_EMIT StatusTextChange(QStringLiteral("ページが見つかりません")); }
+
 void WebBrowser::Open(const QString &address)
 {
     const QUrl url = UrlOf(address);
     if (url.isEmpty() || (url.isLocalFile() && !QFileInfo(url.toLocalFile()).isFile())) {
-        Q_EMIT StatusTextChange(QStringLiteral("ページが見つかりません"));
+        TellNotFound();
         return;
     }
     m_pane->Open(url);

@@ -38,6 +38,9 @@ public:
 
     /// Shows the page at a drive path or a web address. Returns at once.
     void Navigate(const QString &address);
+    /// The same for an address that a file has kept. What is shown of files is for the user to type: one
+    /// with the scheme `file:` is not shown.
+    void NavigateToKept(const QString &address);
     /// Back and forward do nothing where there is no page in that direction.
     void GoBack();
     void GoForward();
@@ -77,6 +80,7 @@ protected:
 
 private:
     void Open(const QString &address);
+    void TellNotFound();
     void Find(const QString &text, bool backward);
     void CloseFindBar();
 
