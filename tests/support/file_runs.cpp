@@ -18,9 +18,9 @@ namespace
 class FileRun
 {
 public:
-    FileRun(Tap &tap, const QString &file)
+    FileRun(Tap &tap, const QString &file, bool withServer)
         : m_tap(tap), m_name(QFileInfo(file).fileName()),
-          m_server(QFileInfo(file).absolutePath() + QStringLiteral("/serve"))
+          m_server(withServer ? QFileInfo(file).absolutePath() + QStringLiteral("/serve") : QString())
     {
     }
 
@@ -131,10 +131,12 @@ private:
 
 bool RunEachInItsProcess(const QString &program, const QStringList &options, const QStringList &files)
 {
+    // The recording pane has no use for a server.
+    const bool withServers = !options.contains(QStringLiteral("recording"));
     Tap tap;
     tap.Begin();
     for (const QString &file : files)
-        FileRun(tap, file).Run(program, options + QStringList{file});
+        FileRun(tap, file, withServers).Run(program, options + QStringList{file});
     tap.PlanAndSummary();
     return tap.Failed() == 0;
 }

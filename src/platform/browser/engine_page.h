@@ -17,6 +17,9 @@ public:
     /// The one local page whose links to the web are followed.
     void SetHome(const QUrl &url) { m_home = url; }
 
+    /// Gives up the load in progress; the page shown is treated as what it is again.
+    void StopLoading();
+
 Q_SIGNALS:
     /// The page about to be shown, or shown, is one from the web.
     void WebPageChanged(bool isWeb);
@@ -26,6 +29,8 @@ protected:
 
 private:
     void ApplySettings(const QUrl &shown);
+    /// No other page is on its way any more.
+    void SettleFor(const QUrl &shown);
 
     QUrl m_home;
     bool m_webIsComing = false;

@@ -180,7 +180,7 @@ void EnginePane::Forward()
         m_page->triggerAction(QWebEnginePage::Forward);
 }
 
-void EnginePane::Stop() { m_page->triggerAction(QWebEnginePage::Stop); }
+void EnginePane::Stop() { m_page->StopLoading(); }
 
 void EnginePane::Reload() { m_page->triggerAction(QWebEnginePage::Reload); }
 

@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
+#include <QWebEngineSettings>
 #include <QWebEngineView>
 #include <gtest/gtest.h>
 
@@ -261,6 +262,14 @@ INSTANTIATE_TEST_SUITE_P(Panes, BrowserTest, testing::Values(Backend::Engine, Ba
 
 class EngineTest : public BrowserTest
 {
+protected:
+    /// A click of the user in the middle of the page.
+    void ClickInPane() const
+    {
+        QWidget *target = pane->findChild<QWebEngineView *>()->focusProxy();
+        ASSERT_NE(target, nullptr);
+        input::Click(*target, target->rect().center());
+    }
 };
 
 TEST_P(EngineTest, WebPagesKeepTheirScriptAndLocalPagesStayWithout)
@@ -385,6 +394,140 @@ TEST_P(EngineTest, ANewWindowOfAWebPageIsShownInThePane)
     pane->Navigate(server.Address());
     EXPECT_TRUE(input::Until([&] { return server.paths.contains(QStringLiteral("/second")); }));
     EXPECT_TRUE(input::Until([&] { return pane->LocationURL().endsWith(QStringLiteral("second")); }));
+}
+
+TEST_P(EngineTest, ARefreshOfAnEntryStaysOffWhileAWebPageComes)
+{
+    Server silent, reached;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<meta http-equiv=refresh content='1;url=%1'><p>quiet</p>").arg(reached.Address())));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(2500);
+    EXPECT_EQ(reached.connections, 0) << reached.paths.join(QLatin1Char(' '));
+    EXPECT_TRUE(pane->LocationURL().endsWith(QStringLiteral("home.html")));
+}
+
+TEST_P(EngineTest, ARefreshOfAnEntryStaysOffWhenAWebPageDidNotCome)
+{
+    Server silent, reached;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<meta http-equiv=refresh content='2;url=%1'><p>quiet</p>").arg(reached.Address())));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(300);
+    pane->Stop();
+    host::Sleep(3000);
+    EXPECT_EQ(reached.connections, 0) << reached.paths.join(QLatin1Char(' '));
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("quiet"));
+}
+
+TEST_P(EngineTest, AStoppedLoadLeavesTheEntryWithoutScript)
+{
+    Server silent;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>quiet</p>")));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(300);
+    pane->Stop();
+    ASSERT_TRUE(Settles());
+    auto *view = pane->findChild<QWebEngineView *>();
+    EXPECT_TRUE(input::Until([view] {
+        return !view->page()->settings()->testAttribute(QWebEngineSettings::JavascriptEnabled) &&
+               view->contextMenuPolicy() == Qt::NoContextMenu;
+    }));
+}
+
+TEST_P(EngineTest, NothingInAnEntryThatIsClickedLeadsAnywhere)
+{
+    Server server;
+    const QString other = QUrl::fromLocalFile(folder.filePath(QStringLiteral("other.html"))).toString();
+    Write(QStringLiteral("other.html"), QStringLiteral("<p>other</p>"));
+    pane->CreateView();
+    const QString cover = QStringLiteral(" style='position:fixed;top:0;left:0;width:100%;height:100%'");
+    const QStringList traps{
+        QStringLiteral("<a href='%1a'%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='%1b' target=_blank%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='%1c' download%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='#here' ping='%1d'%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<form action='%1e'><button%2>x</button></form>").arg(server.Address(), cover),
+        QStringLiteral("<form action='%1f' method=post target=_blank><button%2>x</button></form>")
+            .arg(server.Address(), cover),
+        QStringLiteral("<a href='%1'%2>x</a>").arg(other, cover),
+        QStringLiteral("<a href=\"javascript:document.body.innerHTML='hacked'\"%1>x</a>").arg(cover),
+    };
+    // Before a visit to the web, and right after coming back from one.
+    for (const bool visited : {false, true}) {
+        if (visited) {
+            pane->Navigate(server.Address());
+            ASSERT_TRUE(Shows(QStringLiteral("web page")));
+            ASSERT_TRUE(Settles());
+        }
+        const int before = server.connections;
+        for (const QString &trap : traps) {
+            pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>entry</p>") + trap));
+            ASSERT_TRUE(Shows(QStringLiteral("entry")));
+            ASSERT_TRUE(Settles());
+            ClickInPane();
+            host::Sleep(250);
+            EXPECT_TRUE(pane->ShownText().contains(QStringLiteral("entry"))) << trap;
+            EXPECT_TRUE(pane->LocationURL().contains(QStringLiteral("home.html"))) << trap;
+        }
+        EXPECT_EQ(server.connections, before) << server.paths.join(QLatin1Char(' '));
+    }
+}
+
+TEST_P(EngineTest, LinksOfTheHomePageAloneLeadToTheWeb)
+{
+    Server server;
+    const QString cover = QStringLiteral(" style='position:fixed;top:0;left:0;width:100%;height:100%'");
+    const QString html = QStringLiteral("<p>links</p><a href='%1'%2>x</a>").arg(server.Address(), cover);
+    const QString sites = Write(QStringLiteral("sites.html"), html);
+    pane->SetHomePage(sites);
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), html));
+    ASSERT_TRUE(Shows(QStringLiteral("links")));
+    ASSERT_TRUE(Settles());
+    ClickInPane();
+    host::Sleep(300);
+    EXPECT_EQ(server.connections, 0);
+    pane->GoHome();
+    ASSERT_TRUE(input::Until([&] { return pane->LocationURL() == sites; }));
+    ASSERT_TRUE(Settles());
+    ASSERT_TRUE(input::Until([&] {
+        ClickInPane();
+        return input::Until([&] { return server.connections > 0; }, 500);
+    }));
+    EXPECT_TRUE(Shows(QStringLiteral("web page")));
+    EXPECT_EQ(pane->LocationURL(), server.Address());
+    pane->GoBack();
+    EXPECT_TRUE(Shows(QStringLiteral("links")));
+}
+
+TEST_P(EngineTest, WhatAFileHasKeptDoesNotOpenFiles)
+{
+    pane->CreateView();
+    const QString page = Write(QStringLiteral("a.html"), QStringLiteral("<p>page</p>"));
+    const QString url = QUrl::fromLocalFile(files::HostPath(page)).toString();
+    for (const QString &address : {url, QStringLiteral(" ") + url, url.toUpper()}) {
+        status.clear();
+        pane->NavigateToKept(address);
+        EXPECT_EQ(status, QStringLiteral("ページが見つかりません")) << address;
+        EXPECT_EQ(pane->TakeNavigations(), QStringList{address});
+    }
+    pane->NavigateToKept(page);
+    EXPECT_TRUE(Shows(QStringLiteral("page")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Pane, EngineTest, testing::Values(Backend::Engine));
