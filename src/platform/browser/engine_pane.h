@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPrinter>
 #include <QTimer>
+#include <QWebEngineDownloadRequest>
 #include <memory>
 
 class QWebEngineProfile;
@@ -52,6 +53,9 @@ public:
 private:
     void ConnectPage();
     void ReviveAfterCrash();
+    /// Asks where a file goes that a web page hands out.
+    void TakeDownload(QWebEngineDownloadRequest &request);
+    static void TellDownload(QWebEngineDownloadRequest::DownloadState state);
     bool IsFocusStolen(const QEvent &event) const;
     void PutOnKeyboardsWay(QWidget &inner);
     QPrinter &Printer();

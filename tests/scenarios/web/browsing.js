@@ -76,6 +76,34 @@ const browse = () => {
         settle();
     check([paneText().trim(), text(box)], ["stays on the web", site + "tofile"], "no file");
 
+    // A file that is handed out: the user says where it goes.
+    go(site);
+    const target = tempDir() + "/saved.bin";
+    const fetch = () => {
+        setText(box, site + "file");
+        press(box, "Enter");
+        for (let i = 0; i < 60; ++i)
+            settle();
+    };
+    answerFile(null);
+    fetch();
+    check(boxes().map(each => [each.kind, each.title, each.defaultText]), [["file", "名前を付けて保存", "words.bin"]], "it asks for the place");
+    check([exists(target), paneText().includes("first page")], [false, true], "cancelled, nothing is written");
+    answerFile(target);
+    fetch();
+    check([boxes().length, exists(target) && readBytes(target)], [1, "bytes"], "saved");
+    writeBytes(target, "mine");
+    answerFile(target);
+    answer("いいえ");
+    fetch();
+    check([boxes().map(each => each.title), readBytes(target)], [["名前を付けて保存", "上書きの確認"], "mine"], "a file that is there stays");
+    answerFile(target);
+    answer("はい");
+    fetch();
+    boxes();
+    check(readBytes(target), "bytes", "unless the user wants it written over");
+    ok(paneText().includes("first page"), "the page stays all the while");
+
     // A page that hangs, and its stop.
     go(site);
     setText(box, site + "slow");
