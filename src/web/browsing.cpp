@@ -65,6 +65,7 @@ void frmFind::SetWebMode()
     Shared.ListHidden = 0;
     ToggleHeadwordList();
     WebBrowser1->SetHomePage(SitesPath());
+    WebBrowser1->KeepCookies(AppFilePath(QStringLiteral("cookies.dat")));
     // The web does not need the page; the window must not stop half way for it.
     GuardStep([this] { ShowBlankPage(); });
     ShowWebControls(true);

@@ -36,7 +36,7 @@ private:
     bool m_webIsComing = false;
 };
 
-/// A profile that keeps nothing, with the fonts of a Japanese desktop.
+/// A profile that keeps nothing beyond the run, with the fonts of a Japanese desktop.
 QWebEngineProfile *MakeProfile(QObject *parent);
 
 } // namespace browser

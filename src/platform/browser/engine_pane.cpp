@@ -1,6 +1,7 @@
 #include "platform/browser/engine_pane.h"
 
 #include "platform/browser/address.h"
+#include "platform/browser/cookie_file.h"
 #include "platform/browser/engine_page.h"
 #include "platform/controls/handler.h"
 #include "platform/dialogs/dialogs.h"
@@ -109,6 +110,7 @@ EnginePane::EnginePane(QWidget *parent)
 
 EnginePane::~EnginePane()
 {
+    m_cookies.reset();
     // In this order: a view uses its page, a page its profile.
     delete m_view.data();
     delete m_page;
@@ -216,6 +218,12 @@ void EnginePane::Open(const QUrl &url)
 }
 
 void EnginePane::SetHome(const QUrl &url) { m_page->SetHome(url); }
+
+void EnginePane::KeepCookies(const QString &path)
+{
+    if (!m_cookies)
+        m_cookies = std::make_unique<CookieFile>(*m_profile->cookieStore(), path, nullptr);
+}
 
 void EnginePane::Back()
 {

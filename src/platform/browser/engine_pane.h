@@ -15,6 +15,7 @@ class QWebEngineView;
 namespace browser
 {
 
+class CookieFile;
 class EnginePage;
 
 /// The real pane, on the web engine.
@@ -28,6 +29,7 @@ public:
     QWidget *View() override;
     void Open(const QUrl &url) override;
     void SetHome(const QUrl &url) override;
+    void KeepCookies(const QString &path) override;
     void Back() override;
     void Forward() override;
     void Stop() override;
@@ -63,6 +65,7 @@ private:
     QWebEngineProfile *m_profile;
     EnginePage *m_page;
     QPointer<QWebEngineView> m_view;
+    std::unique_ptr<CookieFile> m_cookies;
     std::unique_ptr<QPrinter> m_printer;
     QPointer<QWidget> m_focusElsewhere;
     QElapsedTimer m_sinceCrash;

@@ -88,6 +88,8 @@ void WebBrowser::CreateView()
     connect(m_findBar, &FindBar::FindRequested, this, &WebBrowser::Find);
     connect(m_findBar, &FindBar::CloseRequested, this, &WebBrowser::CloseFindBar);
     m_pane->SetHome(UrlOf(m_home));
+    if (!m_cookies.isEmpty())
+        m_pane->KeepCookies(m_cookies);
     const QString waiting = std::exchange(m_waiting, {});
     if (!waiting.isEmpty())
         Open(waiting);
@@ -141,6 +143,13 @@ void WebBrowser::SetHomePage(const QString &address)
     m_home = address;
     if (m_pane)
         m_pane->SetHome(UrlOf(address));
+}
+
+void WebBrowser::KeepCookies(const QString &path)
+{
+    m_cookies = path;
+    if (m_pane)
+        m_pane->KeepCookies(path);
 }
 
 void WebBrowser::GoHome()

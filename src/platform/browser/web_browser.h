@@ -46,6 +46,9 @@ public:
     void GoForward();
     /// The page that GoHome shows. It is the one local page whose links lead to the web.
     void SetHomePage(const QString &address);
+    /// Keeps the cookies that are to outlive the run in a file, a drive path, from now on. Nothing else of
+    /// what web pages leave is kept.
+    void KeepCookies(const QString &path);
     /// Shows the home page; does nothing where there is none.
     void GoHome();
     void Stop();
@@ -89,6 +92,7 @@ private:
     QList<int> m_commands;
     QString m_waiting;
     QString m_home;
+    QString m_cookies;
     FindBar *m_findBar = nullptr;
 };
 

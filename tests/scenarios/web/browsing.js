@@ -147,6 +147,14 @@ const browse = () => {
         "the favourite is shown, and the dialog stays");
     click("frmFavorite.Command3");
     check(readBytes(appFile("favorite.dat")).length, 16 * 383, "sixteen are kept");
+
+    // Cookies that are to stay outlive the run.
+    restart();
+    menu("mnuSrchWebSite");
+    settle();
+    go(site + "cookie");
+    ok(paneText().includes("sent: taste=sweet"), "the cookie of the last run is sent");
+    check(items(box), [site + "cookie"], "the addresses of the last run are gone");
 };
 if (site !== "")
     browse();

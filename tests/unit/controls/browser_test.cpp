@@ -34,6 +34,7 @@ public:
     QByteArray body = "<title>web</title><p>web page</p>";
     int connections = 0;
     QStringList paths;
+    QByteArray headers, lastRequest;
 
     Server()
     {
@@ -42,10 +43,11 @@ public:
             QTcpSocket *socket = nextPendingConnection();
             ++connections;
             connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                paths.append(QString::fromLatin1(socket->readAll().split(' ').value(1)));
-                socket->write(
-                    "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
-                    QByteArray::number(body.size()) + "\r\n\r\n" + body);
+                lastRequest = socket->readAll();
+                paths.append(QString::fromLatin1(lastRequest.split(' ').value(1)));
+                socket->write("HTTP/1.1 200 OK\r\n" + headers +
+                              "Content-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+                              QByteArray::number(body.size()) + "\r\n\r\n" + body);
                 socket->disconnectFromHost();
             });
         });
@@ -513,6 +515,41 @@ TEST_P(EngineTest, LinksOfTheHomePageAloneLeadToTheWeb)
     EXPECT_EQ(pane->LocationURL(), server.Address());
     pane->GoBack();
     EXPECT_TRUE(Shows(QStringLiteral("links")));
+}
+
+TEST_P(EngineTest, CookiesThatAreToStayOutliveThePane)
+{
+    Server server;
+    server.headers = "Set-Cookie: stays=1; Max-Age=3600; HttpOnly\r\nSet-Cookie: goes=2\r\n";
+    const QString path = files::DrivePath(folder.filePath(QStringLiteral("cookies.dat")));
+    const auto visit = [&](const QString &cookies) {
+        WebBrowser visitor(&window);
+        visitor.KeepCookies(cookies);
+        visitor.CreateView();
+        visitor.Navigate(server.Address());
+        EXPECT_TRUE(input::Until([&] { return visitor.ShownText().contains(QStringLiteral("web page")); }));
+        const QByteArray request = server.lastRequest;
+        // The engine tells of a cookie in its own time.
+        host::Sleep(1500);
+        return request;
+    };
+    EXPECT_FALSE(visit(path).contains("Cookie:"));
+    QFile file(folder.filePath(QStringLiteral("cookies.dat")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray kept = file.readAll();
+    file.close();
+    EXPECT_TRUE(kept.contains("stays=1")) << kept.toStdString();
+    EXPECT_FALSE(kept.contains("goes=2")) << kept.toStdString();
+    EXPECT_EQ(file.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    server.headers.clear();
+    EXPECT_TRUE(visit(path).contains("Cookie: stays=1\r\n")) << server.lastRequest.toStdString();
+    // What is no cookie file, or cannot be one, costs only the cookies.
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("\0\xff=;;\n\n=\nx", 12));
+    file.close();
+    EXPECT_FALSE(visit(path).contains("stays"));
+    EXPECT_FALSE(
+        visit(files::DrivePath(folder.filePath(QStringLiteral("no/such/cookies.dat")))).contains("stays"));
 }
 
 TEST_P(EngineTest, WhatAFileHasKeptDoesNotOpenFiles)
