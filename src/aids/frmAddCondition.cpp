@@ -1,6 +1,5 @@
 #include "aids/frmAddCondition.h"
 
-#include "aids/main_input.h"
 #include "aids/pure/condition_text.h"
 #include "core/pure/search_modes.h"
 #include "core/shared_state.h"
@@ -8,6 +7,7 @@
 #include "platform/dialogs/dialogs.h"
 #include "platform/host/host.h"
 #include "platform/text/trim.h"
+#include "presentation/main_input.h"
 #include "presentation/target_caption.h"
 #include "search/composite_text.h"
 #include "ui_frmAddCondition.h"

@@ -1,6 +1,5 @@
 #include "aids/frmHistory.h"
 
-#include "aids/main_input.h"
 #include "aids/pure/word_book.h"
 #include "core/pure/app_files.h"
 #include "core/shared_state.h"
@@ -11,6 +10,7 @@
 #include "platform/files/fixed_record_file.h"
 #include "platform/host/host.h"
 #include "platform/text/trim.h"
+#include "presentation/main_input.h"
 #include "search/pure/entry_text.h"
 #include "search/view.h"
 #include "ui_frmHistory.h"

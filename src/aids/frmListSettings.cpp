@@ -1,13 +1,13 @@
 #include "aids/frmListSettings.h"
 
 #include "aids/digit_filter.h"
-#include "aids/main_input.h"
 #include "core/list_settings.h"
 #include "core/pure/search_modes.h"
 #include "platform/controls/connect_handler.h"
 #include "platform/controls/white_base.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/host/host.h"
+#include "presentation/main_input.h"
 #include "ui_frmListSettings.h"
 
 #include <QAbstractItemView>

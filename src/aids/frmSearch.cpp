@@ -1,12 +1,12 @@
 #include "aids/frmSearch.h"
 
-#include "aids/main_input.h"
 #include "aids/pure/wildcard_history.h"
 #include "core/pure/app_files.h"
 #include "platform/controls/connect_handler.h"
 #include "platform/files/file_operations.h"
 #include "platform/files/line_file.h"
 #include "platform/text/trim.h"
+#include "presentation/main_input.h"
 #include "ui_frmSearch.h"
 
 #include <limits>

@@ -18,6 +18,7 @@
 #include "presentation/pure/dialog_checks.h"
 #include "speech/frmSpeaking.h"
 #include "speech/frmSpeakingSetting.h"
+#include "web/frmFavorite.h"
 
 #include <QMenu>
 
@@ -88,6 +89,8 @@ void frmFind::mnuHistory_Click()
     StatusBar1->SetSimpleText(QString());
     (new frmHistory)->ShowModal();
 }
+
+void frmFind::Picture27_MouseDown() { (new frmFavorite)->ShowModal(); }
 
 void frmFind::mnuListSettings_Click() { (new frmListSettings)->ShowModal(); }
 

@@ -39,7 +39,7 @@ public:
     controls::ComboBox *Combo1 = nullptr;
     controls::ClickLabel *Label1 = nullptr;
     controls::TextBox *txtFind = nullptr;
-    QComboBox *Combo2 = nullptr;
+    controls::AddressBox *Combo2 = nullptr;
     controls::ListBox *List1 = nullptr;
     browser::WebBrowser *WebBrowser1 = nullptr;
     controls::StatusBar *StatusBar1 = nullptr;
@@ -121,7 +121,6 @@ public:
     void SetWildcardMode();
     void SetMeaningMode();
     void SetExampleMode();
-    void SetDictionaryView();
     void ToggleHeadwordList();
     void RestorePaneLayout();
     /// Kind 0: the entry box takes the room of the search button; kind 1: the button stands.
@@ -177,6 +176,7 @@ public:
     void mnuTopicSearch_Click();
     void mnuAbout_Click();
     void Picture12_MouseDown();
+    void Picture27_MouseDown();
     void Picture28_MouseDown();
     void RaisePicture(int number);
     void PressPicture(int number);
@@ -200,6 +200,23 @@ public:
     /// but where speech is off.
     void SpeakSelection();
     void Command1_Click();
+
+    // web/
+    /// Sets the window for web pages, to the end of the run.
+    void SetWebMode();
+    /// Sets the window for the dictionaries.
+    void SetDictionaryView();
+    /// Tells the pane: 1 back, 2 forward, 3 home, 4 stop, 5 refresh. What it cannot do changes nothing.
+    void BrowserCommand(int number);
+    void mnuSrchWebSite_Click();
+    void mnuGoBack_Click();
+    void mnuGoForward_Click();
+    void mnuGoHome_Click();
+    void mnuCancel_Click();
+    void mnuReflesh_Click();
+    void Combo2_KeyPress(int character, bool *swallow);
+    void Combo2_Click();
+    void WebBrowser1_TitleChange();
 
     // core/
     void ReadFontFile(const QString &name);
@@ -252,7 +269,13 @@ private:
     void SetListMode(std::uint8_t mode);
     void ClearForModeChange();
 
-    // presentation/dialog_commands.cpp
+    // web/browsing.cpp
+    /// The entries, boxes and pictures of the web, or of the dictionaries.
+    void ShowWebControls(bool onTheWeb);
+    /// Shows the page at the address in the box.
+    void GoToAddress();
+    /// Keeps an address in the list of the address box, unless it is there.
+    void RecordAddress(const QString &address);
 
     // core/frmFind_load.cpp: the numbered steps of the load
     void LoadFonts();

@@ -29,11 +29,6 @@ namespace
 
 frmFind *theMainWindow = nullptr;
 
-/// The entries that wait, disabled, for the dialogs and views they open.
-constexpr std::array kWaitingEntries{
-    u"mnuGoBack", u"mnuGoForward", u"mnuGoHome", u"mnuCancel", u"mnuReflesh", u"mnuSrchWebSite",
-};
-
 struct Accelerator {
     const char16_t *entry;
     QKeySequence keys;
@@ -93,8 +88,6 @@ void frmFind::MakeMenus()
         } else {
             action = menu->addAction(row.caption);
             action->setCheckable(row.checkable);
-            action->setEnabled(std::find(kWaitingEntries.begin(), kWaitingEntries.end(), row.name) ==
-                               kWaitingEntries.end());
             addAction(action);
         }
         action->setObjectName(row.name);
@@ -131,11 +124,7 @@ void frmFind::MakeControls()
     Label1->setText(TargetCaption(TargetAll));
     txtFind = named(new controls::TextBox(m_surface), QStringLiteral("txtFind"));
     txtFind->setAccessibleName(QStringLiteral("検索語"));
-    Combo2 = named(new QComboBox(m_surface), QStringLiteral("Combo2"));
-    Combo2->setEditable(true);
-    Combo2->setInsertPolicy(QComboBox::NoInsert);
-    controls::UseWhiteBase(*Combo2);
-    controls::UseWhiteBase(*Combo2->view());
+    Combo2 = named(new controls::AddressBox(m_surface), QStringLiteral("Combo2"));
     Combo2->setEditText(QStringLiteral("http://"));
     Combo2->setAccessibleName(QStringLiteral("アドレス"));
     Combo2->hide();
@@ -229,7 +218,11 @@ void frmFind::ConnectHandlers()
         });
     });
     connect(WebBrowser1, &browser::WebBrowser::TitleChange, this,
-            [this] { Combo2->setEditText(WebBrowser1->LocationURL()); });
+            [this] { RunHandler([this] { WebBrowser1_TitleChange(); }); });
+    connect(Combo2, &controls::AddressBox::Click, this, [this] { RunHandler([this] { Combo2_Click(); }); });
+    connect(Combo2, &controls::AddressBox::KeyPress, this, [this](int character, bool *swallow) {
+        RunHandler([=, this] { Combo2_KeyPress(character, swallow); });
+    });
 
     Command(QStringLiteral("mnuSrchFromAll"), &frmFind::mnuSrchFromAll_Click);
     Command(QStringLiteral("mnuSrchFromWord"), &frmFind::mnuSrchFromWord_Click);
@@ -273,6 +266,13 @@ void frmFind::ConnectHandlers()
     Command(QString(), &frmFind::Picture18_MouseDown, 18);
     Command(QString(), &frmFind::Picture19_MouseDown, 19);
     Command(QString(), &frmFind::Picture20_MouseDown, 20);
+    Command(QStringLiteral("mnuSrchWebSite"), &frmFind::mnuSrchWebSite_Click);
+    Command(QStringLiteral("mnuGoBack"), &frmFind::mnuGoBack_Click, 22);
+    Command(QStringLiteral("mnuGoForward"), &frmFind::mnuGoForward_Click, 23);
+    Command(QStringLiteral("mnuCancel"), &frmFind::mnuCancel_Click, 24);
+    Command(QStringLiteral("mnuReflesh"), &frmFind::mnuReflesh_Click, 25);
+    Command(QStringLiteral("mnuGoHome"), &frmFind::mnuGoHome_Click, 26);
+    Command(QString(), &frmFind::Picture27_MouseDown, 27);
     Command(QString(), &frmFind::Picture28_MouseDown, 28);
 
     connect(Picture0, &controls::Picture::MouseDown, this,
@@ -280,14 +280,12 @@ void frmFind::ConnectHandlers()
     connect(Picture00, &controls::Picture::MouseDown, this,
             [this] { RunHandler([this] { Picture00_Click(); }); });
 
-    constexpr std::array waiting{22, 23, 24, 25, 26, 27};
     for (int number = 1; number < static_cast<int>(m_pictures.size()); ++number) {
         constexpr int ornament = 21;
         if (number == ornament) {
             PictureOf(number)->setFocusPolicy(Qt::NoFocus);
             continue;
         }
-        PictureOf(number)->setEnabled(std::find(waiting.begin(), waiting.end(), number) == waiting.end());
         connect(PictureOf(number), &controls::Picture::MouseMove, this, [this, number] {
             FlatPicture(number);
             RaisePicture(number);

@@ -223,19 +223,3 @@ void frmFind::ClearSearch()
     if (Shared.SearchMode != ModeIncremental)
         files::DeleteIfThere(ResultStorePath());
 }
-
-void frmFind::SetDictionaryView()
-{
-    Shared.ListHidden = 1;
-    ToggleHeadwordList();
-    ChangeWordEntryBoxSize(m_entryBoxKind);
-    txtFind->show();
-    Combo2->hide();
-    ApplySearchTarget();
-    for (const char16_t *name : {u"mnuGoBack", u"mnuGoForward", u"mnuGoHome", u"mnuCancel", u"mnuReflesh"})
-        Menu(QString::fromUtf16(name))->setEnabled(false);
-    for (int number = 22; number <= 27; ++number)
-        PictureOf(number)->hide();
-    PictureOf(9)->show();
-    PictureOf(12)->show();
-}

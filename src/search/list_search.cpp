@@ -266,6 +266,10 @@ void frmFind::Picture0_MouseDown()
 {
     if (m_searching)
         return;
+    if (Shared.SearchMode == ModeWeb) {
+        GoToAddress();
+        return;
+    }
     if (txtFind->Text().isEmpty()) {
         dialogs::MsgBox(QStringLiteral("検索文字列が入力されていません！"));
         return;

@@ -18,10 +18,19 @@ namespace
 class FileRun
 {
 public:
-    FileRun(Tap &tap, QString name) : m_tap(tap), m_name(std::move(name)) {}
+    FileRun(Tap &tap, const QString &file, bool withServer)
+        : m_tap(tap), m_name(QFileInfo(file).fileName()),
+          m_server(withServer ? QFileInfo(file).absolutePath() + QStringLiteral("/serve") : QString())
+    {
+    }
 
     void Run(const QString &program, const QStringList &arguments)
     {
+        // It ends with its input, and so with this process too.
+        QProcess server;
+        server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        if (QFileInfo(m_server).isExecutable() && !Serves(server))
+            return Fail(QStringLiteral("its server does not start"));
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("TMPDIR"), m_folder.path());
@@ -31,9 +40,25 @@ public:
         Follow(process);
         TakeLine(m_rest);
         Judge(process);
+        server.closeWriteChannel();
+        server.waitForFinished();
     }
 
 private:
+    /// Starts what the folder of the file has to serve its files; whether it tells its address.
+    bool Serves(QProcess &server) const
+    {
+        constexpr int longest = 20'000, slice = 50;
+        server.start(m_server, {m_folder.path()});
+        QElapsedTimer timer;
+        timer.start();
+        while (!QFileInfo::exists(m_folder.filePath(QStringLiteral("site")))) {
+            if (timer.elapsed() > longest || server.waitForFinished(slice))
+                return false;
+        }
+        return true;
+    }
+
     void Follow(QProcess &process)
     {
         constexpr int slice = 200, spareSeconds = 30;
@@ -95,7 +120,7 @@ private:
     void Fail(const QString &what) { m_tap.Point(false, m_name + QStringLiteral(": ") + what); }
 
     Tap &m_tap;
-    QString m_name;
+    QString m_name, m_server;
     // Holds the run's own folder, and removes it where the run crashes.
     QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/wordmere-XXXXXX")};
     QByteArray m_rest;
@@ -106,10 +131,12 @@ private:
 
 bool RunEachInItsProcess(const QString &program, const QStringList &options, const QStringList &files)
 {
+    // The recording pane has no use for a server.
+    const bool withServers = !options.contains(QStringLiteral("recording"));
     Tap tap;
     tap.Begin();
     for (const QString &file : files)
-        FileRun(tap, QFileInfo(file).fileName()).Run(program, options + QStringList{file});
+        FileRun(tap, file, withServers).Run(program, options + QStringList{file});
     tap.PlanAndSummary();
     return tap.Failed() == 0;
 }

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFontDatabase>
+#include <QTimer>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -24,9 +25,13 @@ public:
 
     void interceptRequest(QWebEngineUrlRequestInfo &info) override
     {
-        // Which page is shown is decided by the page's acceptNavigationRequest.
-        if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame)
+        // Which page is shown is decided by the page's acceptNavigationRequest. What a local page itself
+        // asks for, a download for one, does not all come by there.
+        if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame) {
+            if (info.initiator().isLocalFile())
+                info.block(true);
             return;
+        }
         if (!IsWebPage(info.firstPartyUrl()) || info.requestUrl().isLocalFile())
             info.block(true);
     }
@@ -82,9 +87,11 @@ EnginePage::EnginePage(QWebEngineProfile *profile, QObject *parent) : QWebEngine
 {
     setBackgroundColor(QColor(Qt::white));
     ApplySettings(QUrl());
-    connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &url) {
-        m_webIsComing = false;
-        ApplySettings(url);
+    connect(this, &QWebEnginePage::urlChanged, this, &EnginePage::SettleFor);
+    // A load that was stopped, or became a download, leaves the page that was there.
+    connect(this, &QWebEnginePage::loadFinished, this, [this] {
+        if (!isLoading())
+            SettleFor(url());
     });
     // What a web page opens in a new window is shown in the one that there is.
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](QWebEngineNewWindowRequest &request) {
@@ -98,6 +105,11 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
     const bool isWebShown = IsWebPage(url());
     if (!isMainFrame)
         return isWebShown && !target.isLocalFile();
+    if (type == NavigationTypeLinkClicked && url() == m_home && IsWebPage(target)) {
+        // As if it were typed: the site learns nothing of where the user comes from.
+        QTimer::singleShot(0, this, [this, target] { load(target); });
+        return false;
+    }
     const bool byUser =
         type == NavigationTypeTyped || type == NavigationTypeBackForward || type == NavigationTypeReload;
     const bool byServer = type == NavigationTypeRedirect && m_webIsComing;
@@ -106,6 +118,19 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
     m_webIsComing = IsWebPage(target);
     ApplySettings(target);
     return true;
+}
+
+void EnginePage::StopLoading()
+{
+    triggerAction(Stop);
+    // One that had not begun tells nothing of its end.
+    SettleFor(url());
+}
+
+void EnginePage::SettleFor(const QUrl &shown)
+{
+    m_webIsComing = false;
+    ApplySettings(shown);
 }
 
 void EnginePage::ApplySettings(const QUrl &shown)

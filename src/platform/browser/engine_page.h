@@ -14,6 +14,12 @@ class EnginePage : public QWebEnginePage
 public:
     EnginePage(QWebEngineProfile *profile, QObject *parent);
 
+    /// The one local page whose links to the web are followed.
+    void SetHome(const QUrl &url) { m_home = url; }
+
+    /// Gives up the load in progress; the page shown is treated as what it is again.
+    void StopLoading();
+
 Q_SIGNALS:
     /// The page about to be shown, or shown, is one from the web.
     void WebPageChanged(bool isWeb);
@@ -23,11 +29,14 @@ protected:
 
 private:
     void ApplySettings(const QUrl &shown);
+    /// No other page is on its way any more.
+    void SettleFor(const QUrl &shown);
 
+    QUrl m_home;
     bool m_webIsComing = false;
 };
 
-/// A profile that keeps nothing, with the fonts of a Japanese desktop.
+/// A profile that keeps nothing beyond the run, with the fonts of a Japanese desktop.
 QWebEngineProfile *MakeProfile(QObject *parent);
 
 } // namespace browser

@@ -1,12 +1,18 @@
 #include "platform/browser/engine_pane.h"
 
+#include "platform/browser/address.h"
+#include "platform/browser/cookie_file.h"
 #include "platform/browser/engine_page.h"
+#include "platform/controls/handler.h"
+#include "platform/dialogs/dialogs.h"
 #include "platform/failure/runtime_error.h"
+#include "platform/files/drive_path.h"
 #include "platform/host/host.h"
 
 #include <QApplication>
 #include <QChildEvent>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPageSetupDialog>
@@ -104,6 +110,7 @@ EnginePane::EnginePane(QWidget *parent)
 
 EnginePane::~EnginePane()
 {
+    m_cookies.reset();
     // In this order: a view uses its page, a page its profile.
     delete m_view.data();
     delete m_page;
@@ -118,6 +125,11 @@ void EnginePane::ConnectPage()
     });
     connect(m_page, &QWebEnginePage::titleChanged, this, &Pane::TitleChanged);
     connect(m_page, &QWebEnginePage::urlChanged, this, [this] { Q_EMIT TitleChanged(Title()); });
+    connect(m_profile, &QWebEngineProfile::downloadRequested, this,
+            // One that is not accepted when this returns is given up.
+            [this](QWebEngineDownloadRequest *request) {
+                controls::RunHandler([this, request] { TakeDownload(*request); });
+            });
     connect(m_page, &QWebEnginePage::linkHovered, this, &Pane::StatusChanged);
     connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
         m_awaitsStart = false;
@@ -146,6 +158,45 @@ void EnginePane::ConnectPage()
     });
 }
 
+void EnginePane::TakeDownload(QWebEngineDownloadRequest &request)
+{
+    // A page of the program hands out nothing. Until it is accepted, nothing is written.
+    if (!IsWebPage(request.url()) && !IsWebPage(m_page->url())) {
+        request.cancel();
+        return;
+    }
+    const QPointer<QWebEngineDownloadRequest> guard(&request);
+    const QString chosen = dialogs::SaveFile(QString(), QStringLiteral("すべてのファイル (*.*)|*.*"), false,
+                                             QFileInfo(request.suggestedFileName()).fileName());
+    if (!guard)
+        return;
+    if (chosen.isEmpty()) {
+        request.cancel();
+        return;
+    }
+    const QFileInfo target(files::HostPath(chosen));
+    if (target.exists() &&
+        dialogs::MsgBox(QStringLiteral("%1 は既に存在します。\r\n上書きしますか？").arg(target.fileName()),
+                        dialogs::YesNo | dialogs::Question, QStringLiteral("上書きの確認")) != dialogs::Yes) {
+        if (guard)
+            request.cancel();
+        return;
+    }
+    if (!guard)
+        return;
+    request.setDownloadDirectory(target.path());
+    request.setDownloadFileName(target.fileName());
+    connect(&request, &QWebEngineDownloadRequest::stateChanged, this, &EnginePane::TellDownload);
+    request.accept();
+}
+
+void EnginePane::TellDownload(QWebEngineDownloadRequest::DownloadState state)
+{
+    if (state == QWebEngineDownloadRequest::DownloadInterrupted)
+        dialogs::BeepAndMsgBox(host::BeepExclamation, QStringLiteral("ファイルを保存できませんでした！"),
+                               dialogs::Exclamation, QStringLiteral("ダウンロードの中断"));
+}
+
 void EnginePane::ReviveAfterCrash()
 {
     constexpr qint64 shortestTimeBetweenCrashes = 10'000;
@@ -166,6 +217,14 @@ void EnginePane::Open(const QUrl &url)
     m_page->load(url);
 }
 
+void EnginePane::SetHome(const QUrl &url) { m_page->SetHome(url); }
+
+void EnginePane::KeepCookies(const QString &path)
+{
+    if (!m_cookies)
+        m_cookies = std::make_unique<CookieFile>(*m_profile->cookieStore(), path, nullptr);
+}
+
 void EnginePane::Back()
 {
     if (m_page->history()->canGoBack())
@@ -178,7 +237,7 @@ void EnginePane::Forward()
         m_page->triggerAction(QWebEnginePage::Forward);
 }
 
-void EnginePane::Stop() { m_page->triggerAction(QWebEnginePage::Stop); }
+void EnginePane::Stop() { m_page->StopLoading(); }
 
 void EnginePane::Reload() { m_page->triggerAction(QWebEnginePage::Reload); }
 

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPrinter>
 #include <QTimer>
+#include <QWebEngineDownloadRequest>
 #include <memory>
 
 class QWebEngineProfile;
@@ -14,6 +15,7 @@ class QWebEngineView;
 namespace browser
 {
 
+class CookieFile;
 class EnginePage;
 
 /// The real pane, on the web engine.
@@ -26,6 +28,8 @@ public:
 
     QWidget *View() override;
     void Open(const QUrl &url) override;
+    void SetHome(const QUrl &url) override;
+    void KeepCookies(const QString &path) override;
     void Back() override;
     void Forward() override;
     void Stop() override;
@@ -51,6 +55,9 @@ public:
 private:
     void ConnectPage();
     void ReviveAfterCrash();
+    /// Asks where a file goes that a web page hands out.
+    void TakeDownload(QWebEngineDownloadRequest &request);
+    static void TellDownload(QWebEngineDownloadRequest::DownloadState state);
     bool IsFocusStolen(const QEvent &event) const;
     void PutOnKeyboardsWay(QWidget &inner);
     QPrinter &Printer();
@@ -58,6 +65,7 @@ private:
     QWebEngineProfile *m_profile;
     EnginePage *m_page;
     QPointer<QWebEngineView> m_view;
+    std::unique_ptr<CookieFile> m_cookies;
     std::unique_ptr<QPrinter> m_printer;
     QPointer<QWidget> m_focusElsewhere;
     QElapsedTimer m_sinceCrash;

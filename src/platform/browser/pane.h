@@ -17,6 +17,9 @@ public:
 
     /// Shows a page. Local files are there when this is called.
     virtual void Open(const QUrl &url) = 0;
+    /// The one local page whose links to the web are followed.
+    virtual void SetHome(const QUrl &url) = 0;
+    virtual void KeepCookies(const QString &path) = 0;
     virtual void Back() = 0;
     virtual void Forward() = 0;
     virtual void Stop() = 0;

@@ -18,6 +18,8 @@ public:
 
     QWidget *View() override;
     void Open(const QUrl &url) override;
+    void SetHome(const QUrl &) override {}
+    void KeepCookies(const QString &) override {}
     void Back() override;
     void Forward() override;
     void Stop() override {}

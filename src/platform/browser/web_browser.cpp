@@ -87,6 +87,9 @@ void WebBrowser::CreateView()
     connect(m_pane.get(), &Pane::FindAsked, this, &WebBrowser::ShowFindBar);
     connect(m_findBar, &FindBar::FindRequested, this, &WebBrowser::Find);
     connect(m_findBar, &FindBar::CloseRequested, this, &WebBrowser::CloseFindBar);
+    m_pane->SetHome(UrlOf(m_home));
+    if (!m_cookies.isEmpty())
+        m_pane->KeepCookies(m_cookies);
     const QString waiting = std::exchange(m_waiting, {});
     if (!waiting.isEmpty())
         Open(waiting);
@@ -101,15 +104,25 @@ void WebBrowser::Navigate(const QString &address)
         m_waiting = address;
 }
 
+void WebBrowser::NavigateToKept(const QString &address)
+{
+    if (QUrl(address.trimmed()).isLocalFile()) {
+        m_navigations.append(address);
+        TellNotFound();
+        return;
+    }
+    Navigate(address);
+}
+
+void WebBrowser::TellNotFound() { Q_EMIT StatusTextChange(QStringLiteral("ページが見つかりません")); }
+
 void WebBrowser::Open(const QString &address)
 {
     const QUrl url = UrlOf(address);
     if (url.isEmpty() || (url.isLocalFile() && !QFileInfo(url.toLocalFile()).isFile())) {
-        Q_EMIT StatusTextChange(QStringLiteral("ページが見つかりません"));
+        TellNotFound();
         return;
     }
-    if (m_home.isEmpty())
-        m_home = address;
     m_pane->Open(url);
 }
 
@@ -123,6 +136,20 @@ void WebBrowser::GoForward()
 {
     if (m_pane)
         m_pane->Forward();
+}
+
+void WebBrowser::SetHomePage(const QString &address)
+{
+    m_home = address;
+    if (m_pane)
+        m_pane->SetHome(UrlOf(address));
+}
+
+void WebBrowser::KeepCookies(const QString &path)
+{
+    m_cookies = path;
+    if (m_pane)
+        m_pane->KeepCookies(path);
 }
 
 void WebBrowser::GoHome()

@@ -38,10 +38,18 @@ public:
 
     /// Shows the page at a drive path or a web address. Returns at once.
     void Navigate(const QString &address);
+    /// The same for an address that a file has kept. What is shown of files is for the user to type: one
+    /// with the scheme `file:` is not shown.
+    void NavigateToKept(const QString &address);
     /// Back and forward do nothing where there is no page in that direction.
     void GoBack();
     void GoForward();
-    /// Shows the page that was shown first.
+    /// The page that GoHome shows. It is the one local page whose links lead to the web.
+    void SetHomePage(const QString &address);
+    /// Keeps the cookies that are to outlive the run in a file, a drive path, from now on. Nothing else of
+    /// what web pages leave is kept.
+    void KeepCookies(const QString &path);
+    /// Shows the home page; does nothing where there is none.
     void GoHome();
     void Stop();
     void Refresh();
@@ -75,6 +83,7 @@ protected:
 
 private:
     void Open(const QString &address);
+    void TellNotFound();
     void Find(const QString &text, bool backward);
     void CloseFindBar();
 
@@ -83,6 +92,7 @@ private:
     QList<int> m_commands;
     QString m_waiting;
     QString m_home;
+    QString m_cookies;
     FindBar *m_findBar = nullptr;
 };
 

@@ -74,6 +74,27 @@ private:
     QString m_freeText;
 };
 
+/// A drop-down box to type into, with the texts that were added, newest first.
+class AddressBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit AddressBox(QWidget *parent = nullptr);
+    /// Adds an item above the others; the text in the box stays.
+    void AddFirst(const QString &text);
+
+Q_SIGNALS:
+    /// The user has chosen an item; its text is in the box.
+    void Click();
+    /// As TextBox::KeyPress.
+    void KeyPress(int character, bool *swallow);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+};
+
 /// A label that can be clicked.
 class ClickLabel : public QLabel
 {

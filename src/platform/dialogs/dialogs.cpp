@@ -105,12 +105,13 @@ QString dialogs::OpenFile(const QString &title, const QString &filter, bool must
     return ShowFileBox(std::move(box));
 }
 
-QString dialogs::SaveFile(const QString &title, const QString &filter, bool createPrompt)
+QString dialogs::SaveFile(const QString &title, const QString &filter, bool createPrompt, const QString &name)
 {
     Box box;
     box.title = title.isEmpty() ? QStringLiteral("名前を付けて保存") : title;
     box.filter = filter;
     box.createPrompt = createPrompt;
+    box.defaultText = name;
     box.save = true;
     return ShowFileBox(std::move(box));
 }

@@ -88,7 +88,8 @@ QString InputBox(const QString &prompt, const QString &title, const QString &def
 
 /// File boxes: the chosen drive path, empty when cancelled. The filter is "text|pattern|...".
 QString OpenFile(const QString &title, const QString &filter, bool mustExist, bool createPrompt);
-QString SaveFile(const QString &title, const QString &filter, bool createPrompt);
+/// SaveFile opens with the name, where one is given.
+QString SaveFile(const QString &title, const QString &filter, bool createPrompt, const QString &name = {});
 QString ChooseFolder(const QString &title, const QString &folder);
 /// The font box; without a title it bears its own.
 std::optional<FontChoice> ChooseFont(const QString &title, const FontChoice &start);

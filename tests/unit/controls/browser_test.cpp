@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
+#include <QWebEngineSettings>
 #include <QWebEngineView>
 #include <gtest/gtest.h>
 
@@ -33,6 +34,7 @@ public:
     QByteArray body = "<title>web</title><p>web page</p>";
     int connections = 0;
     QStringList paths;
+    QByteArray headers, lastRequest;
 
     Server()
     {
@@ -41,10 +43,11 @@ public:
             QTcpSocket *socket = nextPendingConnection();
             ++connections;
             connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                paths.append(QString::fromLatin1(socket->readAll().split(' ').value(1)));
-                socket->write(
-                    "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
-                    QByteArray::number(body.size()) + "\r\n\r\n" + body);
+                lastRequest = socket->readAll();
+                paths.append(QString::fromLatin1(lastRequest.split(' ').value(1)));
+                socket->write("HTTP/1.1 200 OK\r\n" + headers +
+                              "Content-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+                              QByteArray::number(body.size()) + "\r\n\r\n" + body);
                 socket->disconnectFromHost();
             });
         });
@@ -133,6 +136,8 @@ TEST_P(BrowserTest, GoesBackForwardAndHome)
     const QString first = Write(QStringLiteral("a.html"), QStringLiteral("<p>first</p>"));
     const QString second = Write(QStringLiteral("b.html"), QStringLiteral("<p>second</p>"));
     pane->GoHome();
+    EXPECT_EQ(pane->LocationURL(), QString());
+    pane->SetHomePage(first);
     pane->Navigate(first);
     ASSERT_TRUE(Shows(QStringLiteral("first")));
     pane->Navigate(second);
@@ -259,6 +264,14 @@ INSTANTIATE_TEST_SUITE_P(Panes, BrowserTest, testing::Values(Backend::Engine, Ba
 
 class EngineTest : public BrowserTest
 {
+protected:
+    /// A click of the user in the middle of the page.
+    void ClickInPane() const
+    {
+        QWidget *target = pane->findChild<QWebEngineView *>()->focusProxy();
+        ASSERT_NE(target, nullptr);
+        input::Click(*target, target->rect().center());
+    }
 };
 
 TEST_P(EngineTest, WebPagesKeepTheirScriptAndLocalPagesStayWithout)
@@ -383,6 +396,175 @@ TEST_P(EngineTest, ANewWindowOfAWebPageIsShownInThePane)
     pane->Navigate(server.Address());
     EXPECT_TRUE(input::Until([&] { return server.paths.contains(QStringLiteral("/second")); }));
     EXPECT_TRUE(input::Until([&] { return pane->LocationURL().endsWith(QStringLiteral("second")); }));
+}
+
+TEST_P(EngineTest, ARefreshOfAnEntryStaysOffWhileAWebPageComes)
+{
+    Server silent, reached;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<meta http-equiv=refresh content='1;url=%1'><p>quiet</p>").arg(reached.Address())));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(2500);
+    EXPECT_EQ(reached.connections, 0) << reached.paths.join(QLatin1Char(' '));
+    EXPECT_TRUE(pane->LocationURL().endsWith(QStringLiteral("home.html")));
+}
+
+TEST_P(EngineTest, ARefreshOfAnEntryStaysOffWhenAWebPageDidNotCome)
+{
+    Server silent, reached;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(
+        QStringLiteral("home.html"),
+        QStringLiteral("<meta http-equiv=refresh content='2;url=%1'><p>quiet</p>").arg(reached.Address())));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(300);
+    pane->Stop();
+    host::Sleep(3000);
+    EXPECT_EQ(reached.connections, 0) << reached.paths.join(QLatin1Char(' '));
+    EXPECT_EQ(pane->ShownText().trimmed(), QStringLiteral("quiet"));
+}
+
+TEST_P(EngineTest, AStoppedLoadLeavesTheEntryWithoutScript)
+{
+    Server silent;
+    silent.disconnect();
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>quiet</p>")));
+    ASSERT_TRUE(Shows(QStringLiteral("quiet")));
+    ASSERT_TRUE(Settles());
+    pane->Navigate(silent.Address());
+    host::Sleep(300);
+    pane->Stop();
+    ASSERT_TRUE(Settles());
+    auto *view = pane->findChild<QWebEngineView *>();
+    EXPECT_TRUE(input::Until([view] {
+        return !view->page()->settings()->testAttribute(QWebEngineSettings::JavascriptEnabled) &&
+               view->contextMenuPolicy() == Qt::NoContextMenu;
+    }));
+}
+
+TEST_P(EngineTest, NothingInAnEntryThatIsClickedLeadsAnywhere)
+{
+    Server server;
+    const QString other = QUrl::fromLocalFile(folder.filePath(QStringLiteral("other.html"))).toString();
+    Write(QStringLiteral("other.html"), QStringLiteral("<p>other</p>"));
+    pane->CreateView();
+    const QString cover = QStringLiteral(" style='position:fixed;top:0;left:0;width:100%;height:100%'");
+    const QStringList traps{
+        QStringLiteral("<a href='%1a'%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='%1b' target=_blank%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='%1c' download%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<a href='#here' ping='%1d'%2>x</a>").arg(server.Address(), cover),
+        QStringLiteral("<form action='%1e'><button%2>x</button></form>").arg(server.Address(), cover),
+        QStringLiteral("<form action='%1f' method=post target=_blank><button%2>x</button></form>")
+            .arg(server.Address(), cover),
+        QStringLiteral("<a href='%1'%2>x</a>").arg(other, cover),
+        QStringLiteral("<a href=\"javascript:document.body.innerHTML='hacked'\"%1>x</a>").arg(cover),
+    };
+    // Before a visit to the web, and right after coming back from one.
+    for (const bool visited : {false, true}) {
+        if (visited) {
+            pane->Navigate(server.Address());
+            ASSERT_TRUE(Shows(QStringLiteral("web page")));
+            ASSERT_TRUE(Settles());
+        }
+        const int before = server.connections;
+        for (const QString &trap : traps) {
+            pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>entry</p>") + trap));
+            ASSERT_TRUE(Shows(QStringLiteral("entry")));
+            ASSERT_TRUE(Settles());
+            ClickInPane();
+            host::Sleep(250);
+            EXPECT_TRUE(pane->ShownText().contains(QStringLiteral("entry"))) << trap;
+            EXPECT_TRUE(pane->LocationURL().contains(QStringLiteral("home.html"))) << trap;
+        }
+        EXPECT_EQ(server.connections, before) << server.paths.join(QLatin1Char(' '));
+    }
+}
+
+TEST_P(EngineTest, LinksOfTheHomePageAloneLeadToTheWeb)
+{
+    Server server;
+    const QString cover = QStringLiteral(" style='position:fixed;top:0;left:0;width:100%;height:100%'");
+    const QString html = QStringLiteral("<p>links</p><a href='%1'%2>x</a>").arg(server.Address(), cover);
+    const QString sites = Write(QStringLiteral("sites.html"), html);
+    pane->SetHomePage(sites);
+    pane->CreateView();
+    pane->Navigate(Write(QStringLiteral("home.html"), html));
+    ASSERT_TRUE(Shows(QStringLiteral("links")));
+    ASSERT_TRUE(Settles());
+    ClickInPane();
+    host::Sleep(300);
+    EXPECT_EQ(server.connections, 0);
+    pane->GoHome();
+    ASSERT_TRUE(input::Until([&] { return pane->LocationURL() == sites; }));
+    ASSERT_TRUE(Settles());
+    ASSERT_TRUE(input::Until([&] {
+        ClickInPane();
+        return input::Until([&] { return server.connections > 0; }, 500);
+    }));
+    EXPECT_TRUE(Shows(QStringLiteral("web page")));
+    EXPECT_EQ(pane->LocationURL(), server.Address());
+    pane->GoBack();
+    EXPECT_TRUE(Shows(QStringLiteral("links")));
+}
+
+TEST_P(EngineTest, CookiesThatAreToStayOutliveThePane)
+{
+    Server server;
+    server.headers = "Set-Cookie: stays=1; Max-Age=3600; HttpOnly\r\nSet-Cookie: goes=2\r\n";
+    const QString path = files::DrivePath(folder.filePath(QStringLiteral("cookies.dat")));
+    const auto visit = [&](const QString &cookies) {
+        WebBrowser visitor(&window);
+        visitor.KeepCookies(cookies);
+        visitor.CreateView();
+        visitor.Navigate(server.Address());
+        EXPECT_TRUE(input::Until([&] { return visitor.ShownText().contains(QStringLiteral("web page")); }));
+        const QByteArray request = server.lastRequest;
+        // The engine tells of a cookie in its own time.
+        host::Sleep(1500);
+        return request;
+    };
+    EXPECT_FALSE(visit(path).contains("Cookie:"));
+    QFile file(folder.filePath(QStringLiteral("cookies.dat")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray kept = file.readAll();
+    file.close();
+    EXPECT_TRUE(kept.contains("stays=1")) << kept.toStdString();
+    EXPECT_FALSE(kept.contains("goes=2")) << kept.toStdString();
+    EXPECT_EQ(file.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    server.headers.clear();
+    EXPECT_TRUE(visit(path).contains("Cookie: stays=1\r\n")) << server.lastRequest.toStdString();
+    // What is no cookie file, or cannot be one, costs only the cookies.
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("\0\xff=;;\n\n=\nx", 12));
+    file.close();
+    EXPECT_FALSE(visit(path).contains("stays"));
+    EXPECT_FALSE(
+        visit(files::DrivePath(folder.filePath(QStringLiteral("no/such/cookies.dat")))).contains("stays"));
+}
+
+TEST_P(EngineTest, WhatAFileHasKeptDoesNotOpenFiles)
+{
+    pane->CreateView();
+    const QString page = Write(QStringLiteral("a.html"), QStringLiteral("<p>page</p>"));
+    const QString url = QUrl::fromLocalFile(files::HostPath(page)).toString();
+    for (const QString &address : {url, QStringLiteral(" ") + url, url.toUpper()}) {
+        status.clear();
+        pane->NavigateToKept(address);
+        EXPECT_EQ(status, QStringLiteral("ページが見つかりません")) << address;
+        EXPECT_EQ(pane->TakeNavigations(), QStringList{address});
+    }
+    pane->NavigateToKept(page);
+    EXPECT_TRUE(Shows(QStringLiteral("page")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Pane, EngineTest, testing::Values(Backend::Engine));

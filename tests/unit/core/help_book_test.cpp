@@ -138,7 +138,8 @@ TEST_F(ShippedHelp, HasATopicForEachForm)
     for (const QString &form :
          {u"frmFind"_s, u"frmHelp"_s, u"frmAbout"_s, u"frmSearch"_s, u"frmAddCondition"_s, u"frmHistory"_s,
           u"frmDicList"_s, u"frmCreateDB"_s, u"frmDataConv"_s, u"frmMstmnt"_s, u"frmDBCompress"_s,
-          u"frmColorSelect"_s, u"frmListSettings"_s, u"frmSpeaking"_s, u"frmSpeakingSetting"_s})
+          u"frmColorSelect"_s, u"frmListSettings"_s, u"frmSpeaking"_s, u"frmSpeakingSetting"_s,
+          u"frmFavorite"_s})
         EXPECT_GE(m_book.Find(form), 0) << qPrintable(form);
 }
 
