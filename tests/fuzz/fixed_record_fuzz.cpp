@@ -14,7 +14,7 @@ namespace
 
 void ReadRecords(const QString &path, qsizetype length)
 {
-    constexpr qsizetype kRecordLengths[] = {1, 44, 255, 306, 309, 512, 520};
+    constexpr qsizetype kRecordLengths[] = {1, 44, 255, 306, 309, 383, 512, 520};
     for (const qsizetype recordLength : kRecordLengths) {
         files::FixedRecordFile file(path, recordLength);
         const qint64 count = file.Count();

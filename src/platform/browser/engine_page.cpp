@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QFontDatabase>
 #include <QTimer>
+#include <QWebEngineCertificateError>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -81,6 +82,15 @@ void SetFonts(QWebEngineSettings &settings)
         settings.setFontFamily(QWebEngineSettings::FixedFont, fixed);
 }
 
+QString RefusedCertificatePage(const QWebEngineCertificateError &error)
+{
+    return QStringLiteral("<!DOCTYPE html><html lang=\"ja\"><head><title>%1</title></head>"
+                          "<body style=\"margin:2em\"><h1 style=\"font-size:1.3em\">"
+                          "このサイトへの接続は安全ではないため、表示しません。</h1>"
+                          "<p>%1 の証明書を確認できません。</p><p><small>%2</small></p></body></html>")
+        .arg(error.url().host().toHtmlEscaped(), error.description().toHtmlEscaped());
+}
+
 } // namespace
 
 EnginePage::EnginePage(QWebEngineProfile *profile, QObject *parent) : QWebEnginePage(profile, parent)
@@ -92,6 +102,14 @@ EnginePage::EnginePage(QWebEngineProfile *profile, QObject *parent) : QWebEngine
     connect(this, &QWebEnginePage::loadFinished, this, [this] {
         if (!isLoading())
             SettleFor(url());
+    });
+    // The engine refuses it without a word; the user is to see why nothing comes.
+    connect(this, &QWebEnginePage::certificateError, this, [this](QWebEngineCertificateError error) {
+        error.rejectCertificate();
+        if (error.url() == m_coming)
+            QTimer::singleShot(0, this, [this, html = RefusedCertificatePage(error), url = error.url()] {
+                setHtml(html, url);
+            });
     });
     // What a web page opens in a new window is shown in the one that there is.
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](QWebEngineNewWindowRequest &request) {
@@ -116,6 +134,7 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
     if (!byUser && (target.isLocalFile() || !(isWebShown || byServer)))
         return false;
     m_webIsComing = IsWebPage(target);
+    m_coming = target;
     ApplySettings(target);
     return true;
 }

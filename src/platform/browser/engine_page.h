@@ -32,7 +32,7 @@ private:
     /// No other page is on its way any more.
     void SettleFor(const QUrl &shown);
 
-    QUrl m_home;
+    QUrl m_home, m_coming;
     bool m_webIsComing = false;
 };
 

@@ -9,10 +9,14 @@
 #include "platform/files/drive_path.h"
 #include "platform/host/host.h"
 #include "platform/text/shift_jis.h"
+#include "untrusted_certificate.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QPrintPreviewWidget>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -469,6 +473,7 @@ TEST_P(EngineTest, NothingInAnEntryThatIsClickedLeadsAnywhere)
         QStringLiteral("<a href='%1'%2>x</a>").arg(other, cover),
         QStringLiteral("<a href=\"javascript:document.body.innerHTML='hacked'\"%1>x</a>").arg(cover),
     };
+    int entries = 100;
     // Before a visit to the web, and right after coming back from one.
     for (const bool visited : {false, true}) {
         if (visited) {
@@ -478,12 +483,14 @@ TEST_P(EngineTest, NothingInAnEntryThatIsClickedLeadsAnywhere)
         }
         const int before = server.connections;
         for (const QString &trap : traps) {
-            pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>entry</p>") + trap));
-            ASSERT_TRUE(Shows(QStringLiteral("entry")));
+            // Each page has a text of its own, so that it is not taken for the one before.
+            const QString entry = QStringLiteral("entry %1").arg(++entries);
+            pane->Navigate(Write(QStringLiteral("home.html"), QStringLiteral("<p>%1</p>").arg(entry) + trap));
+            ASSERT_TRUE(Shows(entry));
             ASSERT_TRUE(Settles());
             ClickInPane();
             host::Sleep(250);
-            EXPECT_TRUE(pane->ShownText().contains(QStringLiteral("entry"))) << trap;
+            EXPECT_TRUE(pane->ShownText().contains(entry)) << trap;
             EXPECT_TRUE(pane->LocationURL().contains(QStringLiteral("home.html"))) << trap;
         }
         EXPECT_EQ(server.connections, before) << server.paths.join(QLatin1Char(' '));
@@ -515,6 +522,33 @@ TEST_P(EngineTest, LinksOfTheHomePageAloneLeadToTheWeb)
     EXPECT_EQ(pane->LocationURL(), server.Address());
     pane->GoBack();
     EXPECT_TRUE(Shows(QStringLiteral("links")));
+}
+
+TEST_P(EngineTest, ACertificateThatNobodyTrustsIsRefused)
+{
+    QSslServer server;
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setLocalCertificate(QSslCertificate(kUntrustedCertificate));
+    configuration.setPrivateKey(QSslKey(kUntrustedKey, QSsl::Ec));
+    server.setSslConfiguration(configuration);
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QByteArray received;
+    int connections = 0;
+    QObject::connect(&server, &QTcpServer::pendingConnectionAvailable, &server, [&] {
+        QTcpSocket *socket = server.nextPendingConnection();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket,
+                         [&, socket] { received += socket->readAll(); });
+    });
+    QObject::connect(&server, &QSslServer::startedEncryptionHandshake, &server, [&] { ++connections; });
+    const QString address = QStringLiteral("https://127.0.0.1:%1/").arg(server.serverPort());
+    pane->CreateView();
+    pane->Navigate(address);
+    EXPECT_TRUE(input::Until([&] { return connections > 0; }));
+    EXPECT_TRUE(input::Until(
+        [this] { return pane->ShownText().contains(QStringLiteral("127.0.0.1 の証明書を確認できません。")); },
+        5'000));
+    EXPECT_EQ(pane->LocationURL(), address);
+    EXPECT_EQ(received, QByteArray());
 }
 
 TEST_P(EngineTest, CookiesThatAreToStayOutliveThePane)
