@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <chrono>
 #include <csignal>
 #include <random>
 #include <sys/wait.h>
@@ -49,24 +50,30 @@ protected:
         ASSERT_EQ(rows.size(), static_cast<std::size_t>(kWords - kWords / 3));
         const QString backup = Drive(u"BKUP_a.mdb"_s);
         std::minstd_rand random(20260717);
-        // Long enough for the first run to be done, often in the midst of a later one.
-        std::uniform_int_distribution<useconds_t> moment(0, 250'000);
+        // Up to twice the time of a whole run on this machine, so that a later one is hit as well as the
+        // first.
+        std::uniform_int_distribution<useconds_t> moment(
+            0, 2 * TimeOf([&] { Compact(Drive(), temporary, backup); }));
+        const QString wholeRun = Host(u"whole_run"_s);
         int completed = 0;
         for (int kill = 0; kill < kKills; ++kill) {
             SCOPED_TRACE(kill);
             KillWhile(moment(random), [&] {
-                for (;;)
+                for (;;) {
                     Compact(Drive(), temporary, backup);
+                    QFile(wholeRun).open(QIODevice::WriteOnly);
+                }
             });
             ASSERT_EQ(All(), rows);
             ASSERT_EQ(AskRaw("PRAGMA quick_check"), "ok");
             ASSERT_FALSE(QFileInfo::exists(Host() + u"-journal"_s));
             if (files::Exists(backup)) {
                 ASSERT_EQ(All(u"BKUP_a.mdb"_s), rows);
-                ++completed;
             }
+            completed += QFile::remove(wholeRun) ? 1 : 0;
         }
-        EXPECT_GT(completed, 0) << "no run came as far as the backup";
+        EXPECT_GT(completed, 0) << "no run came to its end";
+        EXPECT_LT(completed, kKills) << "every run came to its end";
         // What a killed run left is in nobody's way.
         Compact(Drive(), temporary, backup);
         EXPECT_EQ(All(), rows);
@@ -74,6 +81,15 @@ protected:
     }
 
 private:
+    /// Microseconds that the work takes.
+    template <typename Work> static useconds_t TimeOf(Work work)
+    {
+        const auto begin = std::chrono::steady_clock::now();
+        work();
+        const auto taken = std::chrono::steady_clock::now() - begin;
+        return static_cast<useconds_t>(std::chrono::duration_cast<std::chrono::microseconds>(taken).count());
+    }
+
     template <typename Work> static void KillWhile(useconds_t time, Work work)
     {
         const pid_t child = ::fork();
