@@ -2,8 +2,10 @@
 #include "platform/data/file_flush.h"
 #include "platform/data/long_work.h"
 #include "platform/data/operation.h"
+#include "platform/data/page_appender.h"
 #include "platform/data/schema.h"
 #include "platform/data/structure_check.h"
+#include "platform/data/tree_copy.h"
 #include "platform/files/drive_path.h"
 #include "platform/text/fold.h"
 
@@ -38,29 +40,62 @@ void Attach(Session &session, const QString &sourcePath)
 }
 
 /// Whether the source's index can be taken over as it stands.
-bool SourceHasIndex(const QString &sourcePath)
+bool HasIndex(Session &source)
 {
-    // Opened as any other dictionary, so that a write that a crash cut short is taken back first.
-    Session source(sourcePath, files::DrivePath(sourcePath), Session::Access::Existing);
-    source.BeginRead();
     const FileContent content = Examine(source);
     if (content.table != TableState::Whole)
         RaiseCode(SQLITE_NOTADB);
     return content.hasIndex;
 }
 
-void CopyRows(Session &session, bool withIndex)
+quint32 RootOf(const Session &session, const char *name)
 {
-    // A plain copy between like tables moves whole records, and the index's entries with them.
-    CreateTable(session, true);
-    if (withIndex)
-        CreateIndexObject(session);
-    session.Run("INSERT INTO main.Dictionary SELECT * FROM source.Dictionary");
-    if (!withIndex)
-        CreateIndexObject(session);
-    session.Run("DELETE FROM main.sqlite_sequence");
-    session.Run("INSERT INTO main.sqlite_sequence SELECT * FROM source.sqlite_sequence "
-                "WHERE name = 'Dictionary'");
+    return static_cast<quint32>(session.NumberOf(
+        std::string("SELECT rootpage FROM main.sqlite_schema WHERE name = '").append(name).append("'")));
+}
+
+/// The trees that were copied page by page; one that is not here went through SQLite.
+struct CopiedTrees {
+    std::optional<TreeDigest> table, index;
+};
+
+/// Copies table and index by their pages; nothing where the source's cannot be walked.
+CopiedTrees CopyPages(Session &source, Session &session, bool withIndex)
+{
+    using Tree = TreeWalk::Tree;
+    CopiedTrees copied;
+    PageAppender pages(session);
+    copied.table = CopyTree(source, Tree::Table, pages, RootOf(session, kTableName));
+    if (!copied.table)
+        return copied;
+    if (withIndex) {
+        copied.index = CopyTree(source, Tree::Index, pages, RootOf(session, kIndexName));
+        if (!copied.index)
+            RaiseCode(SQLITE_CORRUPT);
+    }
+    pages.Finish();
+    return copied;
+}
+
+CopiedTrees CopyRows(Session &source, Session &session, bool withIndex)
+{
+    session.Write([&] {
+        CreateTable(session, true);
+        if (withIndex)
+            CreateIndexObject(session);
+    });
+    const CopiedTrees copied = CopyPages(source, session, withIndex);
+    session.Write([&] {
+        // A plain copy between like tables moves whole records, and the index's entries with them.
+        if (!copied.table)
+            session.Run("INSERT INTO main.Dictionary SELECT * FROM source.Dictionary");
+        if (!withIndex)
+            CreateIndexObject(session);
+        session.Run("DELETE FROM main.sqlite_sequence");
+        session.Run("INSERT INTO main.sqlite_sequence SELECT * FROM source.sqlite_sequence "
+                    "WHERE name = 'Dictionary'");
+    });
+    return copied;
 }
 
 [[noreturn]] void RaiseBadCopy()
@@ -90,7 +125,15 @@ qint64 CountInOrder(Session &session)
     return count;
 }
 
-void Verify(Session &session, std::optional<qint64> sourceRows)
+/// Whether the trees that were copied page by page hold what was read.
+bool HoldsCopied(Session &session, const CopiedTrees &copied)
+{
+    using Tree = TreeWalk::Tree;
+    return (!copied.table || DigestTree(session, Tree::Table) == copied.table) &&
+           (!copied.index || DigestTree(session, Tree::Index) == copied.index);
+}
+
+void Verify(Session &session, const CopiedTrees &copied, std::optional<qint64> sourceRows)
 {
     // On threads of their own, while this one counts. The file is nobody else's: that closing it elsewhere
     // gives up the locks of the process does not matter.
@@ -99,7 +142,7 @@ void Verify(Session &session, std::optional<qint64> sourceRows)
     const qint64 expected =
         sourceRows ? *sourceRows : session.NumberOf("SELECT count(*) FROM source.Dictionary NOT INDEXED");
     if (session.NumberOf("SELECT count(*) FROM main.Dictionary NOT INDEXED") != expected ||
-        CountInOrder(session) != expected)
+        CountInOrder(session) != expected || !HoldsCopied(session, copied))
         RaiseBadCopy();
     AwaitLongWork([&] {
         return isSound.wait_for(std::chrono::seconds(0)) == std::future_status::ready && flush.IsDone();
@@ -109,18 +152,21 @@ void Verify(Session &session, std::optional<qint64> sourceRows)
         RaiseBadCopy();
 }
 
-void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
+void CopyInto(Session &session, Session &source, bool withIndex)
 {
     SetPageSize(session);
     // Until the marks are written the file is nothing that anyone opens, so it needs no journal
     // on the disk, and no flush but that of the verification and the last one, which has little left.
     session.Run("PRAGMA journal_mode = MEMORY");
     session.Run("PRAGMA synchronous = OFF");
-    Attach(session, sourcePath);
+    Attach(session, source.HostPath());
     // Counted while it is copied.
-    std::future<std::optional<qint64>> sourceRows = CountRows(sourcePath);
-    session.Write([&] { DoLongWork(session, [&] { CopyRows(session, withIndex); }); });
-    DoLongWork(session, [&] { Verify(session, sourceRows.get()); });
+    std::future<std::optional<qint64>> sourceRows = CountRows(source.HostPath());
+    DoLongWork(session, [&] {
+        const CopiedTrees copied = CopyRows(source, session, withIndex);
+        Verify(session, copied, sourceRows.get());
+    });
+    session.ReleaseRead();
     session.Run("DETACH source");
     session.Run("PRAGMA synchronous = FULL");
     session.Write([&] { WriteMarks(session); });
@@ -131,11 +177,16 @@ void CopyInto(Session &session, const QString &sourcePath, bool withIndex)
 FileState CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
 {
     RequireNothingAt(targetPath);
-    const bool withIndex = SourceHasIndex(sourcePath);
+    // Opened as any other dictionary, so that a write that a crash cut short is taken back first.
+    Session source(sourcePath, files::DrivePath(sourcePath), Session::Access::Existing);
+    // Nobody gets to write to it before the copy is whole.
+    source.BeginRead();
+    source.SetInLongWork(true);
+    const bool withIndex = HasIndex(source);
     const FileState sourceState = StateOf(sourcePath);
     Session session(targetPath, targetDrivePath, Session::Access::Create);
     try {
-        CopyInto(session, sourcePath, withIndex);
+        CopyInto(session, source, withIndex);
         session.Close();
     } catch (...) {
         session.Close();

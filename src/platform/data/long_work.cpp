@@ -13,11 +13,19 @@ namespace data
 namespace
 {
 
+/// Instructions of SQLite's machine between two looks at the clock: well below a millisecond.
+constexpr int kInstructionsPerLook = 2000;
+
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kProgressInterval{50};
-/// Instructions of SQLite's machine between two looks at the clock: well below a millisecond.
-constexpr int kInstructionsPerLook = 2000;
+
+/// When events are let through next, in whatever way the work goes on.
+Clock::time_point &NextProgress()
+{
+    static Clock::time_point next;
+    return next;
+}
 
 /// The hooks around one piece of work.
 class Watch
@@ -25,6 +33,7 @@ class Watch
 public:
     explicit Watch(Session &session) : m_session(session)
     {
+        NextProgress() = Clock::now() + kProgressInterval;
         m_session.SetInLongWork(true);
         if (ADODB::EngineHooks().busy)
             ADODB::EngineHooks().busy(true);
@@ -46,25 +55,28 @@ private:
     static int Look(void *watch)
     {
         auto *self = static_cast<Watch *>(watch);
-        const Clock::time_point now = Clock::now();
-        if (now < self->m_next || !ADODB::EngineHooks().progress)
-            return 0;
         try {
-            ADODB::EngineHooks().progress();
+            LetEventsThrough();
         } catch (...) {
             self->m_hookFailure = std::current_exception();
             return 1;
         }
-        self->m_next = Clock::now() + kProgressInterval;
         return 0;
     }
 
     Session &m_session;
-    Clock::time_point m_next = Clock::now() + kProgressInterval;
     std::exception_ptr m_hookFailure;
 };
 
 } // namespace
+
+void LetEventsThrough()
+{
+    if (Clock::now() < NextProgress() || !ADODB::EngineHooks().progress)
+        return;
+    ADODB::EngineHooks().progress();
+    NextProgress() = Clock::now() + kProgressInterval;
+}
 
 void DoLongWork(Session &session, const std::function<void()> &work)
 {
@@ -81,15 +93,9 @@ void DoLongWork(Session &session, const std::function<void()> &work)
 void AwaitLongWork(const std::function<bool()> &isDone)
 {
     constexpr std::chrono::milliseconds nap{1};
-    Clock::time_point next = Clock::now() + kProgressInterval;
     while (!isDone()) {
-        if (Clock::now() < next) {
-            std::this_thread::sleep_for(nap);
-            continue;
-        }
-        if (ADODB::EngineHooks().progress)
-            ADODB::EngineHooks().progress();
-        next = Clock::now() + kProgressInterval;
+        std::this_thread::sleep_for(nap);
+        LetEventsThrough();
     }
 }
 

@@ -9,6 +9,20 @@
 namespace data
 {
 
+/// Where what stands in a page of a tree, in bytes, by SQLite's database file format.
+namespace page_layout
+{
+inline constexpr std::size_t kCellCountAt = 3;
+inline constexpr std::size_t kContentAt = 5; ///< where the first of the cells begins
+inline constexpr std::size_t kLastChildAt = 8;
+inline constexpr int kInnerHeader = 12;
+inline constexpr int kLeafHeader = 8;
+inline constexpr int kCellPointerSize = 2;
+inline constexpr int kPageNumberSize = 4;
+/// What a page takes in which a record runs on, behind the number of the next such page.
+inline constexpr int kRoomForRest = kPageSize - kPageNumberSize;
+} // namespace page_layout
+
 /// One page of a tree by the layout of SQLite's file. It believes nothing of what it holds: what would
 /// lie outside the page is refused, and nothing is read beyond it.
 class StoredPage
@@ -22,6 +36,11 @@ public:
         qint64 number = 0;       ///< of a table: the number of the row; of an inner page the greatest below
         std::string_view record; ///< what the cell holds; nothing in an inner page of a table
         bool runsOn = false;     ///< the record goes on in further pages, and is not given
+        quint64 size = 0;        ///< of the whole record, in bytes
+        quint64 sizeHere = 0;    ///< of what of it stands in the page
+        /// All that stands in the page of the cell, behind `child`. Where the record runs on, the number of
+        /// the page in which it does is the end of it.
+        std::string_view body;
     };
 
     /// Where a page of kPageSize bytes is to be read to.

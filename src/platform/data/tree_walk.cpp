@@ -28,10 +28,12 @@ constexpr std::size_t kMostLevels = 16;
 bool TreeWalk::Seek(const IsBehind &isBehind)
 {
     m_depth = 0;
-    m_pagesRead = 0;
     m_isAtEnd = false;
     m_session.BeginRead();
-    return !m_session.IsWriting() && ReadState(m_state) && Descend(m_state.root, isBehind);
+    if (m_session.IsWriting() || !ReadState(m_state))
+        return false;
+    m_seen.assign(std::size_t(m_state.pages) + 1, false);
+    return Descend(m_state.root, isBehind);
 }
 
 bool TreeWalk::StillStands()
@@ -89,8 +91,9 @@ bool TreeWalk::ReadState(FileState &state)
 bool TreeWalk::ReadPage(quint32 number, StoredPage &page)
 {
     // The first page begins with the file's header and is none of a tree's.
-    if (number < 2 || number > m_state.pages || ++m_pagesRead > m_state.pages)
+    if (number < 2 || number > m_state.pages || m_seen[number])
         return false;
+    m_seen[number] = true;
     const sqlite3_int64 offset = sqlite3_int64(number - 1) * kPageSize;
     return m_file->pMethods->xRead(m_file, page.Buffer(), kPageSize, offset) == SQLITE_OK;
 }

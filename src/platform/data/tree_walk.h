@@ -33,6 +33,8 @@ public:
     bool Seek(const IsBehind &isBehind);
     /// Whether nobody has written since Seek, so that the walk goes on under a new read transaction.
     bool StillStands();
+    /// Reads a page in which a record runs on; false where it cannot, or the pages lead in circles.
+    bool ReadRest(quint32 number, StoredPage &page) { return ReadPage(number, page); }
     /// Goes to the next stop; false behind the last, or where the walk cannot go on.
     bool Next();
     /// Whether the walk came to the end of the tree; otherwise rows may follow.
@@ -70,7 +72,7 @@ private:
     Prepared m_rootQuery;
     sqlite3_file *m_file = nullptr;
     FileState m_state;
-    quint32 m_pagesRead = 0;     ///< since Seek: never more than the file has, or they lead round in circles
+    std::vector<bool> m_seen;    ///< pages read since Seek, by number: none twice, or they lead in circles
     std::vector<Level> m_levels; ///< from the root down
     std::size_t m_depth = 0;     ///< of the levels in use
     StoredPage m_leaf;

@@ -40,7 +40,7 @@ check([readBytes(path("locked")) === locked, exists(folder + "/BKUP_locked.mdb")
 // Another program changes the file while its backup is copied.
 const many = [];
 for (let i = 0; i < 60000; ++i)
-    many.push(["word " + i, null, 2, "意味 " + i + "あ".repeat(300), null]);
+    many.push(["word " + i, null, 2, "意味 " + i + "あ".repeat(700), null]);
 makeDictionary(path("a"), many);
 let changed = false;
 // The first yield is the progress layout's.

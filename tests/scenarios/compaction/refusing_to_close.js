@@ -3,7 +3,7 @@ const folder = tempDir();
 const dictionary = folder + "/words.mdb";
 const many = [];
 for (let i = 0; i < 60000; ++i)
-    many.push(["word " + (i * 7919 % 60000), null, 2, "意味 " + i + "あ".repeat(300), null]);
+    many.push(["word " + (i * 7919 % 60000), null, 2, "意味 " + i + "あ".repeat(700), null]);
 makeDictionary(dictionary, many);
 setCatalogue([{name: "英和", path: dictionary, selected: true}]);
 start();

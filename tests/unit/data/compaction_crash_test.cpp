@@ -30,7 +30,7 @@ protected:
         RunRaw("DELETE FROM Dictionary WHERE AutoID % 3 = 0");
     }
 
-    static void Compact(const QString &path, const QString &temporary, const QString &backup)
+    static void CompactInPlace(const QString &path, const QString &temporary, const QString &backup)
     {
         files::DeleteIfThere(temporary);
         files::DeleteIfThere(backup);
@@ -53,7 +53,7 @@ protected:
         // Up to twice the time of a whole run on this machine, so that a later one is hit as well as the
         // first.
         std::uniform_int_distribution<useconds_t> moment(
-            0, 2 * TimeOf([&] { Compact(Drive(), temporary, backup); }));
+            0, 2 * TimeOf([&] { CompactInPlace(Drive(), temporary, backup); }));
         const QString wholeRun = Host(u"whole_run"_s);
         int completed = 0;
         for (int kill = 0; kill < kKills; ++kill) {
@@ -62,7 +62,7 @@ protected:
             const useconds_t time = kill == 0 ? 0 : moment(random);
             KillWhile(time, kill == kKills - 1 ? wholeRun : QString(), [&] {
                 for (;;) {
-                    Compact(Drive(), temporary, backup);
+                    CompactInPlace(Drive(), temporary, backup);
                     QFile(wholeRun).open(QIODevice::WriteOnly);
                 }
             });
@@ -77,7 +77,7 @@ protected:
         EXPECT_GT(completed, 0) << "no run came to its end";
         EXPECT_LT(completed, kKills) << "every run came to its end";
         // What a killed run left is in nobody's way.
-        Compact(Drive(), temporary, backup);
+        CompactInPlace(Drive(), temporary, backup);
         EXPECT_EQ(All(), rows);
         EXPECT_EQ(All(u"BKUP_a.mdb"_s), rows);
         EXPECT_FALSE(files::Exists(temporary));

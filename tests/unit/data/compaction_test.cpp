@@ -18,12 +18,6 @@ namespace
 class Compaction : public DictionaryTest
 {
 protected:
-    void Compact(const QString &from = u"a.mdb"_s, const QString &to = u"b.mdb"_s) const
-    {
-        JRO::JetEngine engine;
-        engine.CompactDatabase(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(from),
-                               u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(to));
-    }
     QByteArray Bytes() const
     {
         QFile file(Host());

@@ -1,5 +1,7 @@
 #include "unit/data/dictionary_fixture.h"
 
+#include "platform/data/jro.h"
+
 #include <QDir>
 #include <algorithm>
 #include <array>
@@ -94,6 +96,13 @@ QStringList DictionaryTest::SelectWords(const QString &statement) const
     for (const Entry &entry : Select(statement))
         words.append(entry.word);
     return words;
+}
+
+void DictionaryTest::Compact(const QString &from, const QString &to) const
+{
+    JRO::JetEngine engine;
+    engine.CompactDatabase(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(from),
+                           u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + Drive(to));
 }
 
 void DictionaryTest::RunRaw(const char *sql, const QString &name) const

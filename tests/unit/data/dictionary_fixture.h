@@ -108,6 +108,10 @@ protected:
     std::vector<Entry> Select(const QString &statement, const QString &name = QStringLiteral("a.mdb")) const;
     QStringList SelectWords(const QString &statement) const;
 
+    /// Writes a compact copy of the one file as the other.
+    void Compact(const QString &from = QStringLiteral("a.mdb"),
+                 const QString &to = QStringLiteral("b.mdb")) const;
+
     /// Runs SQL on the file behind the engine's back, with an order of headwords of its own.
     void RunRaw(const char *sql, const QString &name = QStringLiteral("a.mdb")) const;
     /// The text in the first column of the first row.
