@@ -51,6 +51,16 @@ bool ExistsOnDrive(const QString &path)
     return files::Exists(path);
 }
 
+/// The work needs that place; no dictionary goes for it.
+void RequireNoDictionaryAt(const QString &path)
+{
+    for (const Lexicon &entry : Shared.Lexicons.value_or(QList<Lexicon>()))
+        if (entry.IsDeleted == 0 && files::IsSameFile(path, entry.DicPath))
+            throw RuntimeError(RuntimeError::PermissionDenied, RuntimeError::defaultSource(),
+                               QStringLiteral("最適化の一時ファイルと同じ場所に辞書データベースがあります。\r"
+                                              "別のフォルダへ移動してから最適化してください。"));
+}
+
 /// A turn of the event loop about every 50 ms, for work that calls it more often.
 std::function<void()> YieldNowAndThen()
 {
@@ -214,7 +224,7 @@ void frmDBCompress::Command2_Click()
     const QString tempFolder = GetTempFolder();
     const QString dbPath = text::Trim(m_ui->Combo1->Text());
     QString backupPath;
-    qint64 oldLength = 0;
+    qint64 oldLength = 0, newLength = 0;
     if (!MayStart(dbPath, backupPath, oldLength))
         return;
     try {
@@ -224,6 +234,7 @@ void frmDBCompress::Command2_Click()
         if (!IsLoaded())
             return;
         Compact(dbPath, backupPath, tempFolder + QStringLiteral("TemporaryDBBackupFile.mdb"));
+        newLength = files::Length(dbPath);
     } catch (...) {
         m_isOptimizing = 0;
         SetDialogLayout(NormalLayout);
@@ -233,7 +244,7 @@ void frmDBCompress::Command2_Click()
     host::SetMousePointer(host::PointerDefault);
     hide();
     m_isOptimizing = 0;
-    Show(CompactionDone(oldLength, files::Length(dbPath)));
+    Show(CompactionDone(oldLength, newLength));
     if (!IsLoaded())
         return;
     SetDialogLayout(NormalLayout);
@@ -319,6 +330,7 @@ std::uint8_t frmDBCompress::CheckExtension(QString &backupPath)
 
 void frmDBCompress::Compact(const QString &dbPath, const QString &backupPath, const QString &tempPath)
 {
+    RequireNoDictionaryAt(tempPath);
     files::DeleteIfThere(tempPath);
     host::SetMousePointer(host::PointerHourglass);
     m_isOptimizing = 1;
@@ -341,6 +353,14 @@ void frmDBCompress::ReplaceDictionary(const JRO::JetEngine &engine, const QStrin
 {
     if (!IsWithoutBackup())
         files::Copy(dbPath, backupPath, YieldNowAndThen());
-    engine.RequireUnchanged();
-    files::ReplaceByFile(dbPath, tempPath, YieldNowAndThen());
+    files::ReplaceByFile(dbPath, tempPath, YieldNowAndThen(), [&] {
+        try {
+            engine.RequireUnchanged();
+        } catch (...) {
+            // Written meanwhile, the file may have been copied half before and half behind that.
+            if (!IsWithoutBackup())
+                QFile::remove(files::HostPathOrEmpty(backupPath));
+            throw;
+        }
+    });
 }

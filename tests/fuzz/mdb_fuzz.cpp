@@ -1,7 +1,10 @@
-// Any bytes under the name of a dictionary are refused with a failure, or can be read and written.
+// Any bytes under the name of a dictionary are refused with a failure, or can be read and written, and a
+// compact copy of them holds the same rows.
 
 #include "platform/data/adodb.h"
 #include "platform/data/jro.h"
+#include "platform/data/prepared.h"
+#include "platform/data/session.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 #include "require.h"
@@ -55,6 +58,25 @@ void Use(const QString &path)
     rows.Close();
 }
 
+/// By SQLite's own reading.
+void RequireSameRows(const QString &path, const QString &copy)
+{
+    constexpr std::string_view sql =
+        "SELECT quote(Word), quote(Pronunciation), quote(WordPhrase), quote(Description), quote(Example), "
+        "AutoID FROM Dictionary NOT INDEXED ORDER BY AutoID";
+    constexpr int columns = 6;
+    const data::Session source(path, files::DrivePath(path), data::Session::Access::ReadOnly);
+    const data::Session target(copy, files::DrivePath(copy), data::Session::Access::ReadOnly);
+    data::Prepared rows = source.Prepare(sql);
+    data::Prepared copies = target.Prepare(sql);
+    while (rows.Step()) {
+        Require(copies.Step());
+        for (int column = 0; column < columns; ++column)
+            Require(rows.Text(column) == copies.Text(column));
+    }
+    Require(!copies.Step());
+}
+
 /// Where nothing has to be flushed to a disk, if the host has such a place.
 QString Folder()
 {
@@ -85,7 +107,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             static_cast<qint64>(size));
     file.close();
     OnlyFails([&] { Use(path); });
-    OnlyFails([&] { JRO::JetEngine().CompactDatabase(ConnectionTo(path), ConnectionTo(copy)); });
+    OnlyFails([&] {
+        JRO::JetEngine().CompactDatabase(ConnectionTo(path), ConnectionTo(copy));
+        RequireSameRows(path, copy);
+    });
     for (const QString &name : QDir(folder.path()).entryList(QDir::Files | QDir::Hidden))
         QFile::remove(folder.filePath(name));
     return 0;

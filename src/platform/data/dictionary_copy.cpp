@@ -104,6 +104,11 @@ CopiedTrees CopyRows(Session &source, Session &session, bool withIndex)
                        QStringLiteral("辞書データベースの複写が元のファイルと一致しません。"));
 }
 
+template <typename Result> bool IsReady(const std::future<Result> &result)
+{
+    return result.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
 /// Walks the whole index; raises unless each key lies behind the one before. The number of rows.
 qint64 CountInOrder(Session &session)
 {
@@ -144,9 +149,7 @@ void Verify(Session &session, const CopiedTrees &copied, std::optional<qint64> s
     if (session.NumberOf("SELECT count(*) FROM main.Dictionary NOT INDEXED") != expected ||
         CountInOrder(session) != expected || !HoldsCopied(session, copied))
         RaiseBadCopy();
-    AwaitLongWork([&] {
-        return isSound.wait_for(std::chrono::seconds(0)) == std::future_status::ready && flush.IsDone();
-    });
+    AwaitLongWork([&] { return IsReady(isSound) && flush.IsDone(); });
     flush.Finish();
     if (!isSound.get())
         RaiseBadCopy();
@@ -164,6 +167,7 @@ void CopyInto(Session &session, Session &source, bool withIndex)
     std::future<std::optional<qint64>> sourceRows = CountRows(source.HostPath());
     DoLongWork(session, [&] {
         const CopiedTrees copied = CopyRows(source, session, withIndex);
+        AwaitLongWork([&] { return IsReady(sourceRows); });
         Verify(session, copied, sourceRows.get());
     });
     session.ReleaseRead();
@@ -174,7 +178,8 @@ void CopyInto(Session &session, Session &source, bool withIndex)
 
 } // namespace
 
-FileState CopyDictionary(const QString &sourcePath, const QString &targetPath, const QString &targetDrivePath)
+CopyStates CopyDictionary(const QString &sourcePath, const QString &targetPath,
+                          const QString &targetDrivePath)
 {
     RequireNothingAt(targetPath);
     // Opened as any other dictionary, so that a write that a crash cut short is taken back first.
@@ -185,15 +190,33 @@ FileState CopyDictionary(const QString &sourcePath, const QString &targetPath, c
     const bool withIndex = HasIndex(source);
     const FileState sourceState = StateOf(sourcePath);
     Session session(targetPath, targetDrivePath, Session::Access::Create);
+    const FileState created = StateOf(targetPath);
     try {
         CopyInto(session, source, withIndex);
         session.Close();
     } catch (...) {
         session.Close();
-        QFile::remove(targetPath);
+        if (StateOf(targetPath).IsSameFile(created))
+            QFile::remove(targetPath);
         throw;
     }
-    return sourceState;
+    // The rows were written to the file that was made; what bears its name is to be that one.
+    const FileState copyState = StateOf(targetPath);
+    if (!copyState.IsSameFile(created))
+        RaiseBadCopy();
+    return {sourceState, copyState};
+}
+
+void EndLog(const QString &hostPath)
+{
+    Session session(hostPath, files::DrivePath(hostPath), Session::Access::Existing);
+    Examine(session);
+    const auto isLogged = [&session](std::string_view pragma) {
+        Prepared mode = session.Prepare(pragma);
+        return mode.Step() && mode.Text(0) == "wal";
+    };
+    if (isLogged("PRAGMA journal_mode") && isLogged("PRAGMA journal_mode = DELETE"))
+        RaiseCode(SQLITE_BUSY);
 }
 
 } // namespace data

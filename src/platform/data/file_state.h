@@ -13,6 +13,8 @@ struct FileState {
     qint64 modified = 0;
 
     bool operator==(const FileState &) const = default;
+    /// Whether it is the same file, in whatever state.
+    bool IsSameFile(const FileState &other) const { return device == other.device && file == other.file; }
 };
 
 /// The state of the file at a host path; never raises.

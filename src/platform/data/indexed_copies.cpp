@@ -37,7 +37,7 @@ QString data::IndexedCopyOf(const QString &hostPath)
     known.copy.clear();
 
     QString copy = folder.filePath(QStringLiteral("%1.mdb").arg(++made));
-    const FileState state = CopyDictionary(hostPath, copy, files::DrivePath(copy));
+    const FileState state = CopyDictionary(hostPath, copy, files::DrivePath(copy)).source;
     copies[original] = {state, copy};
     return copy;
 }

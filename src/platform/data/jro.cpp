@@ -18,16 +18,20 @@ void JRO::JetEngine::CompactDatabase(const QString &sourceConnection, const QStr
         m_copyPath = files::HostPath(target);
         data::RequireNothingAt(m_copyPath);
         files::RequireWritable(target);
-        m_source = data::CopyDictionary(m_sourcePath, m_copyPath, target);
-        m_copy = StateOf(m_copyPath);
+        data::EndLog(m_sourcePath);
+        const data::CopyStates states = data::CopyDictionary(m_sourcePath, m_copyPath, target);
+        m_source = states.source;
+        m_copy = states.copy;
     });
 }
 
 void JRO::JetEngine::RequireUnchanged() const
 {
-    // A journal is a write to the source that is under way, or that was cut short.
-    const bool isBeingWritten =
-        QFileInfo::exists(QFileInfo(m_sourcePath).canonicalFilePath() + QStringLiteral("-journal"));
+    // A journal is a write to the source that is under way, or that was cut short; in a log stand writes that
+    // are not in the file.
+    const QString source = QFileInfo(m_sourcePath).canonicalFilePath();
+    const bool isBeingWritten = QFileInfo::exists(source + QStringLiteral("-journal")) ||
+                                QFileInfo::exists(source + QStringLiteral("-wal"));
     if (isBeingWritten || StateOf(m_sourcePath) != m_source || StateOf(m_copyPath) != m_copy)
         throw RuntimeError(
             RuntimeError::CannotOpenDatabase, QString::fromLatin1(data::kJetEngineSource),

@@ -12,8 +12,9 @@ class JetEngine
 {
 public:
     /// Writes a compact copy of the source file of the first connection string to the new file of
-    /// the second and verifies it (rows, order, structure). Never touches the source. On failure
-    /// nothing stays at the destination. Raises -2147467259, 61, 70.
+    /// the second and verifies it (rows, order, structure). Never touches the source, but for the end of a
+    /// log that another program had it write. On failure nothing stays at the destination. Raises
+    /// -2147467259, 61, 70.
     void CompactDatabase(const QString &sourceConnection, const QString &destConnection);
 
     /// Raises -2147467259 unless source and copy of the last compaction still are what they were: what

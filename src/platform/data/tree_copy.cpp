@@ -33,8 +33,10 @@ template <typename Use> void ForEachCell(TreeWalk &walk, Use use)
 {
     StoredPage::Cell cell;
     do {
+        std::size_t size = 0;
         for (int i = walk.FirstCell(); i < walk.EndCell(); ++i) {
-            if (!walk.Page().CellAt(i, cell))
+            // Cells that lie over each other would make of one page thousands.
+            if (!walk.Page().CellAt(i, cell) || (size += cell.body.size()) > kPageSize)
                 RaiseCode(SQLITE_CORRUPT);
             use(cell);
         }
@@ -63,6 +65,7 @@ template <typename Use> void ForEachRest(TreeWalk &walk, const StoredPage::Cell 
         const quint64 here = std::min<quint64>(rest, kRoomForRest);
         rest -= here;
         use(page.Bytes().substr(kPageNumberSize, here), rest == 0);
+        LetEventsThrough();
     }
 }
 

@@ -85,7 +85,8 @@ void files::Rename(const QString &from, const QString &to)
     host::Move(RequireFile(from).filePath(), HostPath(to), host::Target::MustBeFree);
 }
 
-void files::ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield)
+void files::ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield,
+                          const std::function<void()> &lastLook)
 {
     QString target = HostPath(path);
     const bool replaces = host::IsFile(target);
@@ -98,7 +99,7 @@ void files::ReplaceByFile(const QString &path, const QString &from, const std::f
         target = QFileInfo(target).canonicalFilePath();
         host::TakePermissions(source, target);
     }
-    host::Move(source, target, host::Target::IsReplaced, yield);
+    host::Move(source, target, host::Target::IsReplaced, yield, lastLook);
 }
 
 void files::Replace(const QString &path, const QByteArray &content)

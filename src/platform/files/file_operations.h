@@ -45,8 +45,10 @@ void Replace(const QString &path, const QByteArray &content);
 /// Puts the file `from` in the place of the file `path`, which need not exist: one step within a file
 /// system; across file systems `from` is copied beside the target (`yield` as in Copy), flushed and
 /// renamed, then deleted. A symbolic link stays and leads to the new file, and permissions stay those of
-/// the old one. A crash leaves the old or the new file whole.
-void ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield = {});
+/// the old one. A crash leaves the old or the new file whole. `lastLook` is called right before each try to
+/// rename; what it raises leaves the old file.
+void ReplaceByFile(const QString &path, const QString &from, const std::function<void()> &yield = {},
+                   const std::function<void()> &lastLook = {});
 
 /// The whole content; raises 53.
 QByteArray ReadAll(const QString &path);

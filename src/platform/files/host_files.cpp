@@ -212,24 +212,26 @@ void files::host::Open(QFile &file, const QString &path, QIODevice::OpenMode mod
 }
 
 void files::host::Move(const QString &from, const QString &to, Target target,
-                       const std::function<void()> &yield)
+                       const std::function<void()> &yield, const std::function<void()> &lastLook)
 {
     RequireName(to);
     RequireWritable(from);
     RequireWritableFolderOf(from);
     RequireWritableFolderOf(to);
+    if (lastLook)
+        lastLook();
     const int error = RenameFile(from, to, target);
     if (error == 0)
         return;
     if (error != EXDEV)
         Raise(error, error == ENOENT ? from : to);
-    Copy(from, to, target, yield);
+    Copy(from, to, target, yield, lastLook);
     if (::unlink(QFile::encodeName(from).constData()) != 0)
         Raise(errno, from);
 }
 
 void files::host::Copy(const QString &from, const QString &to, Target target,
-                       const std::function<void()> &yield)
+                       const std::function<void()> &yield, const std::function<void()> &lastLook)
 {
     RequireName(to);
     QFile source;
@@ -243,6 +245,8 @@ void files::host::Copy(const QString &from, const QString &to, Target target,
     SetTimeAndPermissions(source, copy);
     if (const int error = Flush(copy.handle(), yield); error != 0)
         Raise(error, to);
+    if (lastLook)
+        lastLook();
     const int error = RenameFile(copy.fileName(), to, target);
     if (error != 0)
         Raise(error, to);

@@ -38,13 +38,16 @@ void Open(QFile &file, const QString &path, QIODevice::OpenMode mode);
 enum class Target { MustBeFree, IsReplaced };
 
 /// Moves a file within one file system or from one to another. From another, it is copied beside
-/// the target, flushed and renamed, so that the target is never there in part.
-void Move(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {});
+/// the target, flushed and renamed, so that the target is never there in part. `lastLook`, unless it is
+/// empty, is called right before each try to rename, and may raise.
+void Move(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {},
+          const std::function<void()> &lastLook = {});
 
 /// Copies a file beside the target, flushes it and gives it its name. Time and permissions are the
 /// source's; the owner may always write the copy. `yield`, unless it is empty, is called after each
 /// piece.
-void Copy(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {});
+void Copy(const QString &from, const QString &to, Target target, const std::function<void()> &yield = {},
+          const std::function<void()> &lastLook = {});
 
 /// Gives a file the permissions of another; leaves it as it is on a file system that has none.
 void TakePermissions(const QString &path, const QString &from);

@@ -262,6 +262,18 @@ TEST_F(TreeCopy, ADamagedTreeGivesNoCopy)
             const char next = number == '\0' ? static_cast<char>(page) : number;
             writeAt(page, 0, QByteArray(3, '\0') + next);
         });
+    // The cells of a page lie over each other: each is the greatest of them.
+    damage([&] {
+        const qint64 page =
+            pageOf("SELECT min(pageno) FROM dbstat WHERE pagetype = 'leaf' AND name = 'Dictionary'");
+        QFile file(Host());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly) && file.seek((page - 1) * kPage + 8));
+        const QByteArray first = file.read(2);
+        file.close();
+        constexpr int cells = 1000;
+        writeAt(page, 3, QByteArray(1, char(cells >> 8)) + char(cells & 0xFF));
+        writeAt(page, 8, first.repeated(cells));
+    });
     // The file ends before its trees do.
     damage([&] {
         QFile file(Host());

@@ -196,6 +196,29 @@ TEST_F(FileOperations, ReplaceByFileKeepsASymbolicLinkAndPermissions)
     EXPECT_FALSE(files::Exists(Drive(u"temp"_s)));
 }
 
+TEST_F(FileOperations, WhatTheLastLookRaisesLeavesTheOldFile)
+{
+    Put(u"temp"_s, "new");
+    Put(u"a"_s, "old");
+    int looks = 0;
+    const auto replace = [&](qint32 number) {
+        return Raised([&] {
+            files::ReplaceByFile(Drive(u"a"_s), Drive(u"temp"_s), {}, [&] {
+                ++looks;
+                EXPECT_EQ(Get(u"a"_s), "old");
+                if (number != 0)
+                    throw RuntimeError(number);
+            });
+        });
+    };
+    EXPECT_EQ(replace(RuntimeError::InvalidCall), RuntimeError::InvalidCall);
+    EXPECT_EQ(Get(u"a"_s), "old");
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"temp"_s}));
+    EXPECT_EQ(replace(0), 0);
+    EXPECT_EQ(Get(u"a"_s), "new");
+    EXPECT_EQ(looks, 2);
+}
+
 TEST_F(FileOperations, CopyYieldsAndStopsWhenTheYieldRaises)
 {
     Put(u"a"_s, QByteArray(3 << 20, 'x'));
@@ -229,6 +252,20 @@ TEST_F(FileOperations, MovesFromAnotherFileSystem)
     files::ReplaceByFile(Drive(u"a"_s), temp);
     EXPECT_EQ(Get(u"a"_s), content);
     EXPECT_FALSE(files::Exists(temp));
+
+    // It is looked once more behind the copying, which takes its time.
+    ASSERT_TRUE(fill("newer"));
+    int looks = 0;
+    EXPECT_EQ(Raised([&] {
+                  files::ReplaceByFile(Drive(u"a"_s), temp, {}, [&looks] {
+                      if (++looks == 2)
+                          throw RuntimeError(RuntimeError::InvalidCall);
+                  });
+              }),
+              RuntimeError::InvalidCall);
+    EXPECT_EQ(looks, 2);
+    EXPECT_EQ(Get(u"a"_s), content);
+    EXPECT_EQ(Names(), QStringList{u"a"_s});
 
     ASSERT_TRUE(fill("small"));
     files::Rename(temp, Drive(u"b"_s));
