@@ -12,7 +12,6 @@
 #include "ui_frmDataConv.h"
 
 #include <QPointer>
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -187,7 +186,7 @@ void ConversionRun::Open()
         ReadFirstHeadword();
     m_source = std::make_unique<files::LineReader>(m_dialog.SourcePath);
     if (!m_format.isPairs)
-        OpenLog();
+        CreateLog();
     // Opening may have built a missing index, which ends with the default pointer.
     host::SetMousePointer(host::PointerHourglass);
     controls.QuitButton->setEnabled(false);
@@ -195,14 +194,13 @@ void ConversionRun::Open()
     m_dialog.SetTakesInput(true);
 }
 
-void ConversionRun::OpenLog()
+void ConversionRun::CreateLog()
 {
     const QString path = LogPath();
     RequireOtherFile(
         m_dialog.SourcePath, path,
         u"変換元のファイルは変換不可レコードの保存先です。ファイル名を変更してから変換してください。"_s);
-    m_log =
-        std::make_unique<files::LineWriter>(path, files::LineWriter::Mode::Output, m_source->FileEncoding());
+    files::LineWriter(path, files::LineWriter::Mode::Output).Close();
 }
 
 void ConversionRun::ReadFirstHeadword()
@@ -255,9 +253,10 @@ void ConversionRun::BadRecord(const QString &line)
 {
     m_hadBadRecords = true;
     const QByteArrayView bytes = m_source->RawLine();
-    m_log->WriteLine(m_format.logsTrimmed ? files::TrimmedRaw(bytes, line, m_source->FileEncoding()) : bytes);
-    // Whoever looks at the log while the run goes on finds every record that was rejected.
-    m_log->Flush();
+    // Opened for each record: whoever looks at the log meanwhile finds every one, and may take it away.
+    files::LineWriter log(LogPath(), files::LineWriter::Mode::Append, m_source->FileEncoding());
+    log.WriteLine(m_format.logsTrimmed ? files::TrimmedRaw(bytes, line, m_source->FileEncoding()) : bytes);
+    log.Close();
     CountBadRecord(m_badCount, m_format.mostBadRecords);
     if (m_keepsGoing || m_badCount <= kManyBadRecords)
         return;
@@ -289,13 +288,10 @@ void ConversionRun::Close()
     m_source.reset();
     try {
         m_store.Close();
-        if (m_log)
-            m_log->Close();
     } catch (const RuntimeError &failure) {
         TellFailure(failure);
         m_isStopped = true;
     }
-    m_log.reset();
     m_dialog.Controls().MsgText->SetText(QString());
 }
 

@@ -55,7 +55,7 @@ private:
     void BecomeIdle();
     void ShowPreparation();
     void Open();
-    void OpenLog();
+    void CreateLog();
     void ReadFirstHeadword();
     void ConvertLines();
     void ConvertPairs();
@@ -70,7 +70,6 @@ private:
     const Format &m_format;
     RowStore m_store;
     std::unique_ptr<files::LineReader> m_source;
-    std::unique_ptr<files::LineWriter> m_log;
     QString m_lastHeadword;
     std::int32_t m_recordNo = 0;
     std::int32_t m_badCount = 0;

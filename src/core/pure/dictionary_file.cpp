@@ -8,6 +8,7 @@
 #include "platform/files/file_operations.h"
 #include "platform/text/trim.h"
 
+#include <QFile>
 #include <QScopeGuard>
 
 QString ViewConnectionString(const QString &path)
@@ -59,6 +60,17 @@ void MakeDictionary(const QString &path)
     table.AppendKey(key);
 }
 
+/// Whether the file is what a making that ended early has left: a database, or not even begun.
+bool IsLeftOver(const QString &path)
+{
+    QFile file(files::HostPath(path));
+    constexpr QByteArrayView mark("SQLite format 3");
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray begin = file.read(mark.size());
+    return begin.isEmpty() || begin == mark;
+}
+
 void TakeAway(const QString &path) noexcept
 {
     try {
@@ -77,7 +89,9 @@ void CreateDictionaryFile(const QString &path)
     data::RequireNothingAt(files::HostPath(trimmed));
     // Made under another name: whatever ends the process meanwhile, nobody finds a dictionary in part.
     const QString unfinished = trimmed + QStringLiteral(".unfinished");
-    TakeAway(unfinished);
+    if (IsLeftOver(unfinished))
+        TakeAway(unfinished);
+    data::RequireNothingAt(files::HostPath(unfinished));
     auto takeAway = qScopeGuard([&unfinished] { TakeAway(unfinished); });
     MakeDictionary(unfinished);
     files::Rename(unfinished, trimmed);

@@ -130,13 +130,6 @@ void files::LineWriter::WriteLine(QByteArrayView bytes)
         host::Raise(m_file, errno, m_file.fileName());
 }
 
-void files::LineWriter::Flush()
-{
-    errno = 0;
-    if (!m_file.flush())
-        host::Raise(m_file, errno, m_file.fileName());
-}
-
 void files::LineWriter::Close()
 {
     errno = 0;

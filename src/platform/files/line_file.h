@@ -28,8 +28,6 @@ public:
 
     /// Writes the bytes and CR LF; raises 61 when the disk is full, 57 when the device fails.
     void WriteLine(QByteArrayView bytes);
-    /// Hands what was written to the system, so that others see it; raises as WriteLine.
-    void Flush();
     /// Closes; raises as WriteLine, for what was buffered.
     void Close();
 

@@ -88,6 +88,25 @@ TEST_F(NewDictionary, IsThereWholeOrNotAtAll)
     EXPECT_EQ(names(), (QStringList{u"new.mdb"_s, u"other.mdb"_s}));
 }
 
+TEST_F(NewDictionary, TakesAwayItsOwnLeftOversOnly)
+{
+    const QString other = files::DrivePath(m_folder.filePath(u"other.mdb"_s));
+    const QString beside = m_folder.filePath(u"other.mdb.unfinished"_s);
+    const auto put = [&beside](const QByteArray &content) {
+        QFile file(beside);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    ASSERT_TRUE(put("somebody's"));
+    EXPECT_THROW(CreateDictionaryFile(other), RuntimeError);
+    EXPECT_TRUE(QFile::exists(beside));
+    for (const QByteArray &leftOver : {QByteArray(), QByteArray("SQLite format 3\0and so on", 26)}) {
+        ASSERT_TRUE(put(leftOver));
+        CreateDictionaryFile(other);
+        EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), (QStringList{u"new.mdb"_s, u"other.mdb"_s}));
+        QFile::remove(m_folder.filePath(u"other.mdb"_s));
+    }
+}
+
 TEST_F(NewDictionary, OrdersEqualHeadwordsByNumber)
 {
     for (const QString &word : {u"same"_s, u"other"_s, u"same"_s, u"Same"_s})
