@@ -11,7 +11,6 @@
 #include "platform/host/host.h"
 #include "platform/text/trim.h"
 #include "presentation/main_input.h"
-#include "search/pure/entry_text.h"
 #include "search/view.h"
 #include "ui_frmHistory.h"
 
@@ -56,8 +55,10 @@ void frmHistory::ConnectHandlers()
     ConnectHandler(m_ui->Command3, &QPushButton::clicked, this, &frmHistory::Command3_Click);
     ConnectHandler(m_ui->Command4, &QPushButton::clicked, this, &frmHistory::Command4_Click);
     ConnectHandler(m_ui->Command5, &QPushButton::clicked, this, &frmHistory::Command5_Click);
-    ConnectHandler(m_ui->List1, &controls::ListBox::DblClick, this, &frmHistory::List1_DblClick);
-    connect(m_ui->List1, &controls::ListBox::MouseMove, this,
+    using controls::ListBox;
+    for (const auto signal : {&ListBox::DblClick, &ListBox::DblClickBesideRows})
+        ConnectHandler(m_ui->List1, signal, this, &frmHistory::List1_DblClick);
+    connect(m_ui->List1, &ListBox::MouseMove, this,
             [this](const QPoint &point) { controls::RunHandler([this, point] { List1_MouseMove(point); }); });
 }
 
@@ -121,9 +122,9 @@ bool frmHistory::SelectRow(const QString &word)
 void frmHistory::Command1_Click()
 {
     const frmFind *window = MainWindow();
-    const QString word = OneLine(
+    const QString word =
         dialogs::InputBox(QStringLiteral("マイ ワードブックに追加する見出し語を入力してください..."),
-                          QStringLiteral("追加"), window ? text::Trim(window->txtFind->Text()) : QString()));
+                          QStringLiteral("追加"), window ? text::Trim(window->txtFind->Text()) : QString());
     if (word.isEmpty())
         return;
     if (SelectRow(word)) {

@@ -15,8 +15,6 @@
 namespace
 {
 
-constexpr int kMostEntries = 30;
-
 void MakeEntriesBox(QComboBox &box, DigitFilter &filter)
 {
     // A number typed is a number, not the beginning of one in the list.

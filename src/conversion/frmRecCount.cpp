@@ -3,6 +3,7 @@
 #include "conversion/frmDataConv.h"
 #include "core/shared_state.h"
 #include "platform/controls/handler.h"
+#include "platform/host/plain_texts.h"
 #include "ui_frmRecCount.h"
 
 frmRecCount::frmRecCount(frmDataConv &dialog, const QString &caption, const QString &first,
@@ -13,7 +14,7 @@ frmRecCount::frmRecCount(frmDataConv &dialog, const QString &caption, const QStr
     m_controls->setupUi(this);
     setObjectName(QStringLiteral("frmRecCount"));
     SetDialogFrame();
-    setWindowTitle(caption);
+    host::SetTitle(*this, caption);
     m_controls->Label1->setText(first);
     m_controls->Label2->setText(second);
     SetKeyButtons(nullptr, m_controls->Command1);
@@ -28,7 +29,7 @@ void frmRecCount::Form_Load()
     Shared.StopRequested = 0;
     // Wide enough for its caption, which no layout knows.
     constexpr int besideCaption = 120;
-    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + besideCaption);
+    setMinimumWidth(fontMetrics().horizontalAdvance(host::Title(*this)) + besideCaption);
     adjustSize();
     Centre();
 }

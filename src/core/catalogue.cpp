@@ -49,9 +49,10 @@ std::int16_t LoadLexicons(const QString &fileName)
 std::int16_t SaveLexicons(const QString &fileName)
 {
     QByteArray content;
-    for (qsizetype slot = 0; slot + 1 < Shared.Lexicons->size(); ++slot)
-        if (Shared.Lexicons->at(slot).IsDeleted == 0)
-            content += EncodeLexicon(Shared.Lexicons->at(slot));
+    const QList<Lexicon> lexicons = Shared.Lexicons.value_or(QList<Lexicon>());
+    for (qsizetype slot = 0; slot + 1 < lexicons.size(); ++slot)
+        if (lexicons.at(slot).IsDeleted == 0)
+            content += EncodeLexicon(lexicons.at(slot));
     files::Replace(AppFilePath(fileName), content);
     return content.isEmpty() ? std::int16_t{0} : std::int16_t{-1};
 }

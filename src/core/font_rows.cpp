@@ -36,8 +36,9 @@ void SetFontRow(int slot, const FontRow &row)
 
 void ShowFont(QWidget *control, const FontRow &row, int points)
 {
-    control->setFont(controls::MakeFont(row.name, points, row.bold != 0, row.italic != 0, row.strikeout != 0,
-                                        row.underline != 0));
+    control->setFont(controls::MakeFont(row.name, points, row.bold == FontRow::kYes,
+                                        row.italic == FontRow::kYes, row.strikeout == FontRow::kYes,
+                                        row.underline == FontRow::kYes));
     QPalette palette = control->palette();
     const QColor color = controls::MakeColor(row.color);
     palette.setColor(QPalette::Text, color);

@@ -22,8 +22,6 @@
 namespace
 {
 
-QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
-
 void MoveTo(QWidget *control, int left)
 {
     controls::TwipRect place = controls::PlaceOf(control);
@@ -80,7 +78,9 @@ void frmFind::LoadListSettings()
 
 void frmFind::LoadCatalogue()
 {
-    const std::int16_t result = LoadLexicons(CatalogueFile());
+    m_hasReadCatalogue = false;
+    const std::int16_t result = LoadLexicons(CatalogueFileName());
+    m_hasReadCatalogue = true;
     Shared.CatalogueFlag1 = result;
     Shared.CatalogueFlag2 = result;
     if (result == 0 || !files::Exists(Shared.CurrentDicPath))
@@ -200,7 +200,7 @@ void frmFind::Form_Unload(controls::UnloadReason)
 {
     ForgetMainWindow();
     if (LexiconsAllocated() != QStringLiteral("0")) {
-        GuardStep([] { SaveLexicons(CatalogueFile()); });
+        GuardStep([] { SaveLexicons(CatalogueFileName()); });
         GuardStep([] { files::DeleteIfThere(ResultStorePath()); });
         host::WinHelp(HelpFilePath(), host::HelpQuit);
     }

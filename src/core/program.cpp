@@ -8,6 +8,7 @@
 #include "platform/data/adodb.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/files/application_folder.h"
+#include "platform/host/plain_texts.h"
 #include "presentation/frmFind.h"
 #include "presentation/help_viewer.h"
 
@@ -94,6 +95,7 @@ void Program::PrepareApplication()
     if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(words);
 
+    host::ShowPlainToolTips();
     InstallHelpViewer();
     controls::SetFailureHandler(HandleByDefault);
     host::SetBeforeTurnHook(ADODB::ReleaseReads);

@@ -5,12 +5,14 @@
 #include "core/shared_state.h"
 #include "management/pure/dictionary_dialog_layout.h"
 #include "management/pure/entry_checks.h"
+#include "management/questions.h"
 #include "platform/controls/connect_handler.h"
 #include "platform/controls/twips.h"
 #include "platform/dialogs/dialogs.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/file_operations.h"
 #include "platform/host/host.h"
+#include "platform/host/plain_texts.h"
 #include "platform/text/fold.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
@@ -19,7 +21,6 @@
 namespace
 {
 
-QString CatalogueFile() { return QStringLiteral("lexicons.dat"); }
 QString BrowsingCaption() { return QStringLiteral("辞書設定"); }
 QString AddingCaption() { return QStringLiteral("新規追加"); }
 QString EditingCaption() { return QStringLiteral("編集"); }
@@ -29,10 +30,8 @@ QString LengthText(qint64 length) { return length == 0 ? QString() : text::Group
 
 void TellNothingSelected(const QString &firstLine)
 {
-    dialogs::BeepAndMsgBox(host::BeepExclamation,
-                           firstLine +
-                               QStringLiteral("\r\n\r\nリストの中から辞書クリックして選択してください。"),
-                           dialogs::Exclamation, QStringLiteral("辞書の未選択"));
+    Tell(firstLine + QStringLiteral("\r\n\r\nリストの中から辞書クリックして選択してください。"),
+         QStringLiteral("辞書の未選択"));
 }
 
 } // namespace
@@ -121,7 +120,7 @@ void frmDicList::ShowLayout(bool isEditing)
 
 void frmDicList::BeginEditing(const QString &caption)
 {
-    setWindowTitle(caption);
+    host::SetTitle(*this, caption);
     EnableFields(true);
     ShowLayout(true);
     SetKeyButtons(m_ui->ButtonOK, m_ui->ButtonCancel);
@@ -130,7 +129,7 @@ void frmDicList::BeginEditing(const QString &caption)
 
 void frmDicList::ReturnToBrowsing()
 {
-    setWindowTitle(BrowsingCaption());
+    host::SetTitle(*this, BrowsingCaption());
     EnableFields(false);
     ShowLayout(false);
     SetKeyButtons(m_ui->ButtonChange, m_ui->ButtonQuit);
@@ -227,10 +226,10 @@ void frmDicList::Command1_Click()
     if (path.isEmpty())
         return;
     frmFind *window = MainWindow();
-    const auto same = [](const QString &left, const QString &right) {
-        return text::Same(text::Trim(left), text::Trim(right));
-    };
-    if (window && same(m_ui->Text1->Text(), window->Combo1->Text()) && !same(path, m_ui->Text2->Text())) {
+    // Names are the same in any case and width; a path is what the host takes for a file.
+    const bool isInUse =
+        window && text::Same(text::Trim(m_ui->Text1->Text()), text::Trim(window->Combo1->Text()));
+    if (isInUse && path != text::Trim(m_ui->Text2->Text())) {
         window->AbandonSearch();
         ResetMainWindow(*window);
         window->StatusBar1->SetSimpleText(QStringLiteral("Ready"));
@@ -239,19 +238,14 @@ void frmDicList::Command1_Click()
     ShowFileDetails(path);
 }
 
-void frmDicList::ShowFault(const EntryFault &fault)
-{
-    dialogs::BeepAndMsgBox(host::BeepExclamation, fault.text, dialogs::Exclamation, fault.title);
-}
-
 void frmDicList::ButtonOK_Click()
 {
-    const EntryDraft draft{.isEdit = windowTitle().startsWith(EditingCaption()),
+    const EntryDraft draft{.isEdit = host::Title(*this).startsWith(EditingCaption()),
                            .savedName = m_savedDicName,
                            .name = text::Trim(m_ui->Text1->Text()),
                            .path = text::Trim(m_ui->Text2->Text())};
     if (const auto fault = FindFault(draft, Shared.Lexicons, files::Exists)) {
-        ShowFault(*fault);
+        Tell(fault->text, fault->title);
         if (fault->isDuplicate)
             FocusName();
         return;
@@ -259,7 +253,8 @@ void frmDicList::ButtonOK_Click()
     EnableFields(false);
     if (!draft.isEdit && DicNameExists(Shared.Lexicons, draft.name) != 0) {
         // The fields are disabled by now, and the list stays hidden: the window frame alone is left.
-        ShowFault(DuplicateName(draft.name));
+        const EntryFault fault = DuplicateName(draft.name);
+        Tell(fault.text, fault.title);
         FocusName();
         return;
     }
@@ -282,11 +277,8 @@ void frmDicList::ButtonDelete_Click()
         return;
     }
     const QString name = m_ui->DicList->Text();
-    const int answer = dialogs::BeepAndMsgBox(host::BeepQuestion,
-                                              QStringLiteral("設定済み辞書「") + name +
-                                                  QStringLiteral("」を削除してもよろしいですか？"),
-                                              dialogs::YesNo | dialogs::Question, QStringLiteral("削除確認"));
-    if (answer != dialogs::Yes)
+    if (AskYesNo(QStringLiteral("設定済み辞書「") + name + QStringLiteral("」を削除してもよろしいですか？"),
+                 QStringLiteral("削除確認")) != dialogs::Yes)
         return;
     DeleteLexicon(Shared.Lexicons, name);
     m_ui->Text1->SetText(QString());
@@ -304,15 +296,12 @@ void frmDicList::ButtonQuit_Click()
 
 void frmDicList::SaveAndRefresh()
 {
-    if (SaveLexicons(CatalogueFile()) == 0)
-        files::DeleteIfThere(AppFilePath(CatalogueFile()));
-    const std::int16_t result = LoadLexicons(CatalogueFile());
+    if (SaveLexicons(CatalogueFileName()) == 0)
+        files::DeleteIfThere(AppFilePath(CatalogueFileName()));
+    const std::int16_t result = LoadLexicons(CatalogueFileName());
     Shared.CatalogueFlag1 = result;
     Shared.CatalogueFlag2 = result;
     if (result != 0)
         FillDicList();
-    frmFind *window = MainWindow();
-    if (!window)
-        return;
-    window->ResetMainView(true);
+    MainWindow()->ResetMainView(true);
 }

@@ -57,7 +57,6 @@ private:
     void FocusName();
     /// Clears away what the main window shows of the dictionary in use.
     static void ResetMainWindow(frmFind &window);
-    static void ShowFault(const EntryFault &fault);
     void SaveAndRefresh();
 
     std::unique_ptr<Ui::frmDicList> m_ui;

@@ -3,6 +3,7 @@
 #include "core/shared_state.h"
 #include "management/questions.h"
 #include "platform/controls/handler.h"
+#include "platform/host/plain_texts.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
 #include "search/view.h"
@@ -62,7 +63,7 @@ void frmMstmnt::Form_Load()
     if (Shared.EditOpenMode == 1)
         ui->Text3->setFocus();
     EditState = 0;
-    setWindowTitle(Caption(QStringLiteral("編集")));
+    host::SetTitle(*this, Caption(QStringLiteral("編集")));
 }
 
 QString frmMstmnt::Caption(const QString &state) const
@@ -180,7 +181,7 @@ void frmMstmnt::EnterAddState()
 {
     EditState = 1;
     EnableWalking(false);
-    setWindowTitle(Caption(QStringLiteral("新規追加")));
+    host::SetTitle(*this, Caption(QStringLiteral("新規追加")));
     ui->Command7->setText(QStringLiteral("キャンセル(&U)"));
     FillBoxes({});
     ui->Option1->setChecked(true);
@@ -193,7 +194,7 @@ void frmMstmnt::EnterAddState()
 void frmMstmnt::EnterEditState()
 {
     EditState = 0;
-    setWindowTitle(Caption(QStringLiteral("編集")));
+    host::SetTitle(*this, Caption(QStringLiteral("編集")));
     ui->Command5->setEnabled(true);
     ui->Command8->setEnabled(true);
 }

@@ -95,6 +95,7 @@ private:
     QString Caption(const QString &state) const;
     void EnableWalking(bool enabled);
     void EnterEditState();
+    void EnterEditStateSaved();
     void ShowCurrent();
     void StandOnNew(const RecordKey &key);
     void ReplaceCurrent();

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The boxes of the record editor, each with its beep.
+/// The boxes of the record editor and of the catalogue, each with its beep.
 
 /// A notice.
 void Tell(const QString &text, const QString &title);

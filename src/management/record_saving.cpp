@@ -58,6 +58,11 @@ void frmMstmnt::Command6_Click()
         if (CheckRequiredFields() == 1 || SaveEdits() == 1)
             return;
     }
+    EnterEditStateSaved();
+}
+
+void frmMstmnt::EnterEditStateSaved()
+{
     EnterEditState();
     ui->Command7->setText(QStringLiteral("元に戻す"));
 }
@@ -82,9 +87,9 @@ void frmMstmnt::StandOnNew(const RecordKey &key)
     Shared.CurrentAutoID = key.autoID;
     TakeSnapshot(ValuesToStore(ChosenWordPhrase()));
     if (EditState == 1)
-        EnterEditState();
-    ShowCurrent();
+        EnterEditStateSaved();
     EnableWalking(true);
+    ShowCurrent();
 }
 
 void frmMstmnt::ReplaceCurrent()

@@ -2,9 +2,9 @@
 #include "platform/browser/web_browser.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/host/host.h"
+#include "platform/text/one_line.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
-#include "search/pure/entry_text.h"
 
 void frmFind::mnuExit_Click() { Unload(); }
 
@@ -32,5 +32,5 @@ void frmFind::mnuPageSettings_Click() { ExecPrinting(browser::PageSetup); }
 void frmFind::Picture12_MouseDown()
 {
     if (host::ClipboardHasText())
-        txtFind->SetText(text::Trim(OneLine(host::ClipboardText())));
+        txtFind->SetText(text::Trim(text::OneLine(host::ClipboardText())));
 }

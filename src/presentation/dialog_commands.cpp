@@ -58,7 +58,13 @@ void frmFind::mnuOpen_Click()
 
 void frmFind::ShowRecordEditor() { (new frmMstmnt)->ShowAbove(*this); }
 
-void frmFind::mnuDicAdd_Click() { (new frmDicList)->ShowModal(); }
+void frmFind::mnuDicAdd_Click()
+{
+    // The dialog saves what it has: entries that could not be read at start-up must not be lost by that.
+    if (!m_hasReadCatalogue)
+        LoadCatalogue();
+    (new frmDicList)->ShowModal();
+}
 
 void frmFind::mnuCompress_Click()
 {

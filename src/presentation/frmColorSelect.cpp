@@ -1,9 +1,11 @@
 #include "presentation/frmColorSelect.h"
 
 #include "core/font_rows.h"
+#include "core/pure/app_files.h"
 #include "platform/controls/handler.h"
 #include "platform/controls/twips.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/files/file_operations.h"
 #include "platform/host/host.h"
 #include "platform/host/looks.h"
 #include "presentation/frmFind.h"
@@ -15,7 +17,6 @@
 namespace
 {
 
-constexpr qint16 kYes = -1;
 constexpr int kSampleWidth = 4800;
 constexpr int kSampleHeight = 480;
 
@@ -42,15 +43,15 @@ dialogs::FontChoice ChoiceOf(const FontRow &row)
     return {.name = row.name,
             .size = row.size,
             .color = row.color,
-            .bold = row.bold != 0,
-            .italic = row.italic != 0,
-            .strikeout = row.strikeout != 0,
-            .underline = row.underline != 0};
+            .bold = row.bold == FontRow::kYes,
+            .italic = row.italic == FontRow::kYes,
+            .strikeout = row.strikeout == FontRow::kYes,
+            .underline = row.underline == FontRow::kYes};
 }
 
 FontRow RowOf(const dialogs::FontChoice &choice)
 {
-    const auto flag = [](bool on) { return on ? kYes : qint16{0}; };
+    const auto flag = [](bool on) { return on ? FontRow::kYes : qint16{0}; };
     return {choice.name,         CheckedTo<qint16>(choice.size), choice.color,          flag(choice.bold),
             flag(choice.italic), flag(choice.strikeout),         flag(choice.underline)};
 }
@@ -165,6 +166,9 @@ void frmColorSelect::Label1_Click()
 
 void frmColorSelect::Command9_Click()
 {
+    // Both files or none: a second one that cannot be written must not leave new rows in the first.
+    for (const QString &path : {AppFilePath(FontFileName()), StylePath()})
+        files::RequireWritable(path);
     WriteFonts();
     const Rows rows = PresentRows();
     PageFonts styles;

@@ -319,6 +319,7 @@ private:
     controls::TwipRect m_rememberedList, m_rememberedPane;
     QSize m_rememberedWindow;
     int m_entryBoxKind = 0;
+    bool m_hasReadCatalogue = false;
     bool m_viewMade = false;
     bool m_searching = false;
     bool m_searchAbandoned = false;

@@ -5,7 +5,7 @@
 
 CompositeText SplitCompositeText(const QString &typed)
 {
-    const CompositeText parts = TakeApart(typed);
+    CompositeText parts = TakeApart(typed);
     if (parts.wrongOrder)
         dialogs::BeepAndMsgBox(
             host::BeepExclamation,

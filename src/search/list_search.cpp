@@ -363,7 +363,9 @@ void frmFind::ShowListPage(std::int32_t page, std::int32_t first)
 
 void frmFind::Picture14_MouseDown()
 {
-    const std::int32_t page = Shared.ListPageNo - 1;
+    // So many hits may have been removed that the page in front of this one is none any more.
+    const std::int32_t pages = (Shared.HitCount + Shared.ListPageSize - 1) / Shared.ListPageSize;
+    const std::int32_t page = std::min(Shared.ListPageNo - 1, pages);
     if (page >= 1) {
         ShowListPage(page, (page - 1) * Shared.ListPageSize + 1);
     } else {

@@ -8,7 +8,6 @@
 #include "platform/files/fixed_record_file.h"
 #include "platform/host/host.h"
 #include "presentation/main_input.h"
-#include "search/pure/entry_text.h"
 #include "ui_frmFavorite.h"
 #include "web/pure/favorite_record.h"
 
@@ -93,9 +92,9 @@ void frmFavorite::Command1_Click()
     const frmFind *window = MainWindow();
     if (!window)
         return;
-    const QString name = OneLine(
+    const QString name =
         dialogs::InputBox(QStringLiteral("現在表示中のウエブ サイトを Wordmere のお気に入りへ追加します"),
-                          QStringLiteral("お気に入りへの追加"), window->WebBrowser1->LocationName()));
+                          QStringLiteral("お気に入りへの追加"), window->WebBrowser1->LocationName());
     if (name.isEmpty())
         return;
     if (SelectRow(name)) {

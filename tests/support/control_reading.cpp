@@ -4,6 +4,7 @@
 #include "platform/controls/controls.h"
 #include "platform/controls/form.h"
 #include "platform/controls/list_box.h"
+#include "platform/host/plain_texts.h"
 #include "script_error.h"
 
 #include <QAbstractButton>
@@ -60,7 +61,7 @@ std::optional<QString> CaptionOfWidget(const QWidget *widget)
     if (const auto *group = qobject_cast<const QGroupBox *>(widget))
         return group->title();
     if (widget->isWindow())
-        return widget->windowTitle();
+        return host::Title(*widget);
     return std::nullopt;
 }
 

@@ -20,7 +20,6 @@ template <typename Number> Number NumberIn(const QString &field)
 qint16 ShortIn(const QString &field) { return NumberIn<qint16>(field); }
 
 constexpr int kMostHeadwords = 300;
-constexpr int kMostEntries = 30;
 constexpr int kMostHits = 30000;
 constexpr int kMostBookRows = 1000;
 

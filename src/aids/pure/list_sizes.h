@@ -5,6 +5,9 @@
 #include <QString>
 #include <optional>
 
+/// The most entries that a page may show.
+inline constexpr int kMostEntries = 30;
+
 /// The fields of the dialog on list sizes, by the names of its controls.
 enum class SizeField { Text1, Combo1, Text4, Text2, Combo2, Text3 };
 

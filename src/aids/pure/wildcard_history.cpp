@@ -1,15 +1,15 @@
 #include "aids/pure/wildcard_history.h"
 
+#include "platform/text/one_line.h"
 #include "platform/text/shift_jis.h"
 #include "platform/text/trim.h"
-#include "search/pure/entry_text.h"
 
 QByteArray EncodeWildcardHistory(const WildcardFields &fields)
 {
     QByteArray content;
     for (const QString &field : {fields.start, fields.middle, fields.end, fields.firstGap, fields.secondGap})
         // A line end that was pasted into a field must not move the fields behind it.
-        content += text::EncodeRecord(text::Trim(OneLine(field))) + "\r\n";
+        content += text::EncodeRecord(text::Trim(text::OneLine(field))) + "\r\n";
     return content;
 }
 

@@ -1,8 +1,8 @@
 #include "aids/pure/wildcard_pattern.h"
 
 #include "platform/failure/runtime_error.h"
+#include "platform/text/one_line.h"
 #include "platform/text/trim.h"
-#include "search/pure/entry_text.h"
 
 namespace
 {
@@ -12,7 +12,7 @@ const QChar kOneCharacter = u'_';
 
 QString Literal(const QString &typed)
 {
-    return text::Trim(OneLine(typed))
+    return text::Trim(text::OneLine(typed))
         .replace(kAnyText, QStringLiteral("[%]"))
         .replace(kOneCharacter, QStringLiteral("[_]"));
 }

@@ -11,6 +11,8 @@ QString AppFilePath(const QString &name)
     return path + name;
 }
 
+QString CatalogueFileName() { return QStringLiteral("lexicons.dat"); }
+
 QString ResultStorePath() { return AppFilePath(QStringLiteral("ListData.dat")); }
 
 QString HelpFilePath() { return AppFilePath(QStringLiteral("Help.HLP")); }

@@ -5,6 +5,9 @@
 /// The drive path of a file in the application folder.
 QString AppFilePath(const QString &name);
 
+/// The name of the catalogue file in the application folder.
+QString CatalogueFileName();
+
 /// The drive path of `ListData.dat`, the store of the hits of the last list search.
 QString ResultStorePath();
 

@@ -13,6 +13,9 @@ enum FontSlot : int { FontCombo = 0, FontEntry = 1, FontList = 2, FontStyle1 = 3
 
 /// One of the nine fonts of `FontDefi.dat`. Flags are 0 or -1; the colour is 0x00BBGGRR.
 struct FontRow {
+    /// What a flag that is set holds.
+    static constexpr qint16 kYes = -1;
+
     QString name;
     qint16 size = 0; ///< points
     qint32 color = 0;

@@ -8,12 +8,18 @@
 namespace controls
 {
 
-AddressBox::AddressBox(QWidget *parent) : QComboBox(parent)
+EditableBox::EditableBox(QWidget *parent) : QComboBox(parent)
+{
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+}
+
+void EditableBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
+
+AddressBox::AddressBox(QWidget *parent) : EditableBox(parent)
 {
     UseWhiteBase(*this);
     UseWhiteBase(*view());
-    setEditable(true);
-    setInsertPolicy(QComboBox::NoInsert);
     auto *box = new TextBox(this);
     setLineEdit(box);
     // An address typed in full must not turn into a longer one that is known.
@@ -44,15 +50,13 @@ void AddressBox::keyPressEvent(QKeyEvent *event)
         showPopup();
         event->accept();
         break;
-    default: QComboBox::keyPressEvent(event);
+    default: EditableBox::keyPressEvent(event);
     }
 }
 
-void AddressBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
-
 void AddressBox::focusInEvent(QFocusEvent *event)
 {
-    QComboBox::focusInEvent(event);
+    EditableBox::focusInEvent(event);
     if (event->reason() == Qt::OtherFocusReason)
         lineEdit()->selectAll();
 }

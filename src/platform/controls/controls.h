@@ -9,7 +9,7 @@ namespace controls
 {
 
 /// A single-line text box. Change comes for typing and for every different text that the program
-/// sets; text that an input method still composes raises nothing.
+/// sets; text that an input method still composes raises nothing. Lines that the user pastes become one.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
@@ -34,11 +34,14 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
 
 private:
+    class LineJoiner;
+
     /// Takes away the first half of a character whose second half found no room in front of the greatest
     /// length; whether there was one.
     bool DropHalfCharacter();
 
     bool m_composing = false;
+    bool m_isSetting = false; ///< the text that comes is the program's
 };
 
 /// A drop-down box. Not editable: its text is an item's, or one that the program set.
@@ -74,8 +77,19 @@ private:
     QString m_freeText;
 };
 
+/// A drop-down box to type into, which keeps nothing of that. The wheel changes nothing unseen.
+class EditableBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit EditableBox(QWidget *parent = nullptr);
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+};
+
 /// A drop-down box to type into, with the texts that were added, newest first.
-class AddressBox : public QComboBox
+class AddressBox : public EditableBox
 {
     Q_OBJECT
 public:
@@ -91,7 +105,6 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 };
 

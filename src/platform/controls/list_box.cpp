@@ -3,6 +3,7 @@
 #include "platform/controls/key_character.h"
 #include "platform/controls/list_box_model.h"
 #include "platform/controls/white_base.h"
+#include "platform/host/plain_texts.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -263,10 +264,8 @@ bool ListBox::viewportEvent(QEvent *event)
         return QListView::viewportEvent(event);
     // Markup in a row is text like any other, and a long row is broken into lines.
     const auto *help = static_cast<QHelpEvent *>(event);
-    const QString text = toolTip().isEmpty() ? QString()
-                                             : QStringLiteral("<p style=\"white-space:pre-wrap\">") +
-                                                   toolTip().toHtmlEscaped() + QStringLiteral("</p>");
-    QToolTip::showText(help->globalPos(), text, viewport(), visualRect(indexAt(help->pos())));
+    QToolTip::showText(help->globalPos(), host::ToolTipOf(toolTip()), viewport(),
+                       visualRect(indexAt(help->pos())));
     return true;
 }
 

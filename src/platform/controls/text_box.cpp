@@ -2,15 +2,41 @@
 
 #include "platform/controls/key_character.h"
 #include "platform/controls/white_base.h"
+#include "platform/text/one_line.h"
 
 #include <QInputMethodEvent>
+#include <QScopedValueRollback>
+#include <QValidator>
+#include <algorithm>
 
 namespace controls
 {
 
+/// Joins the lines of what the user puts into the box.
+class TextBox::LineJoiner : public QValidator
+{
+public:
+    explicit LineJoiner(TextBox *box) : QValidator(box), m_box(*box) {}
+
+    State validate(QString &input, int &caret) const override
+    {
+        // A text of the program's is shown as it is.
+        if (!m_box.m_isSetting) {
+            caret = static_cast<int>(text::OneLine(input.first(caret)).size());
+            input = text::OneLine(input);
+            caret = std::min(caret, static_cast<int>(input.size()));
+        }
+        return Acceptable;
+    }
+
+private:
+    const TextBox &m_box;
+};
+
 TextBox::TextBox(QWidget *parent) : QLineEdit(parent)
 {
     UseWhiteBase(*this);
+    setValidator(new LineJoiner(this));
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!DropHalfCharacter())
             Q_EMIT Change();
@@ -30,8 +56,10 @@ bool TextBox::DropHalfCharacter()
 
 void TextBox::SetText(const QString &value)
 {
-    if (value != text())
-        setText(value);
+    if (value == text())
+        return;
+    const QScopedValueRollback<bool> setting(m_isSetting, true);
+    setText(value);
 }
 
 void TextBox::CaretToEnd()

@@ -24,7 +24,10 @@ QVariant RowReader::Value(Column column) const
 {
     if (m_statement.IsNull(column))
         return {};
-    if (column == AutoID || column == WordPhrase)
+    // Cut to its size, the number of one row would be that of another.
+    if (column == AutoID)
+        return CheckedTo<qint32>(m_statement.Number(column));
+    if (column == WordPhrase)
         return static_cast<int>(m_statement.Number(column));
     return FromUtf8(m_statement.Text(column));
 }

@@ -37,7 +37,7 @@ QVariant StatementCursor::Value(Column column)
 {
     RequireRow();
     if (column == AutoID)
-        return static_cast<int>(m_hit.autoID);
+        return CheckedTo<qint32>(m_hit.autoID);
     if (m_hit.hasKey && column == Word)
         return FromUtf8(m_hit.word);
     if (m_hit.hasKey && column == WordPhrase)

@@ -89,7 +89,7 @@ QVariant TableCursor::Value(Column column)
 {
     RequireRow();
     switch (column) {
-    case AutoID: return static_cast<int>(m_walk.AutoID());
+    case AutoID: return CheckedTo<qint32>(m_walk.AutoID());
     case Word: return FromUtf8(m_walk.Word());
     case WordPhrase: return m_walk.HasWordPhrase() ? QVariant(m_walk.WordPhrase()) : QVariant();
     default: break;

@@ -4,6 +4,7 @@
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 #include "platform/host/looks.h"
+#include "platform/host/plain_texts.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -81,7 +82,7 @@ Reply PresentMessage(const Box &box, QWidget *parent)
 {
     const QPointer<QMessageBox> dialog(new QMessageBox(parent));
     dialog->setIcon(IconOf(box.icon));
-    dialog->setWindowTitle(box.title);
+    host::SetTitle(*dialog, box.title);
     dialog->setTextFormat(Qt::PlainText);
     dialog->setText(ShownLines(box.text));
     dialog->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -109,7 +110,7 @@ Reply PresentInput(const Box &box, QWidget *parent)
 {
     auto *dialog = new QInputDialog(parent);
     dialog->setInputMode(QInputDialog::TextInput);
-    dialog->setWindowTitle(box.title);
+    host::SetTitle(*dialog, box.title);
     dialog->setLabelText(ShownLines(box.text));
     const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
     for (QLabel *label : labels)
@@ -248,7 +249,7 @@ Reply PresentColor(const Box &box, QWidget *parent)
 {
     auto *dialog = new QColorDialog(host::ColorOf(box.color), parent);
     dialog->setOptions(QColorDialog::DontUseNativeDialog);
-    dialog->setWindowTitle(box.title);
+    host::SetTitle(*dialog, box.title);
     return Run(dialog, [](const QColorDialog &done) {
         Reply reply;
         reply.color = host::BgrOf(done.selectedColor());

@@ -2,6 +2,7 @@
 
 #include "platform/dialogs/default_presenter.h"
 #include "platform/host/host.h"
+#include "platform/text/one_line.h"
 
 #include <array>
 
@@ -92,7 +93,7 @@ QString dialogs::InputBox(const QString &prompt, const QString &title, const QSt
     box.text = prompt;
     box.defaultText = defaultText;
     const Reply reply = Show(std::move(box));
-    return reply.accepted ? reply.text : QString();
+    return reply.accepted ? text::OneLine(reply.text) : QString();
 }
 
 QString dialogs::OpenFile(const QString &title, const QString &filter, bool mustExist, bool createPrompt)

@@ -68,13 +68,14 @@ QStringList PageHeader(const PageFonts &fonts)
                        "CONTENT=\"text/html;CHARSET=x-sjis\"><TITLE></TITLE><STYLE TYPE=\"text/css\">")};
     int number = 0;
     for (const FontRow &font : fonts)
-        lines.append(QStringLiteral("#sty%1 {line-height: 1.5; text-decoration: %2;font-family: \"%3\"; "
-                                    "font-size: %4pt;color: %5;font-weight: %6;font-style: %7;}")
-                         .arg(QString::number(++number),
-                              font.underline != 0 ? QStringLiteral("Underline") : QStringLiteral("none"),
-                              font.name, QString::number(font.size), StyleColorName(font.color),
-                              font.bold != 0 ? QStringLiteral("bold") : QStringLiteral("normal"),
-                              font.italic != 0 ? QStringLiteral("Italic") : QStringLiteral("normal")));
+        lines.append(
+            QStringLiteral("#sty%1 {line-height: 1.5; text-decoration: %2;font-family: \"%3\"; "
+                           "font-size: %4pt;color: %5;font-weight: %6;font-style: %7;}")
+                .arg(QString::number(++number),
+                     font.underline == FontRow::kYes ? QStringLiteral("Underline") : QStringLiteral("none"),
+                     font.name, QString::number(font.size), StyleColorName(font.color),
+                     font.bold == FontRow::kYes ? QStringLiteral("bold") : QStringLiteral("normal"),
+                     font.italic == FontRow::kYes ? QStringLiteral("Italic") : QStringLiteral("normal")));
     lines.append(QStringLiteral("</STYLE></HEAD><BODY oncontextmenu=\"return false\">"));
     return lines;
 }

@@ -183,8 +183,10 @@ const type = number => ({
     can: () => form,
     model: () => {
         const texts = number === 1 ? kWords : kTexts;
-        const value = pick(texts.filter(candidate => candidate !== form.boxes[number - 1]));
-        form.boxes[number - 1] = value;
+        // A box of one line joins the lines that it is given.
+        const shown = value => number <= 2 ? value.replace(/[\r\n]+/g, " ") : value;
+        const value = pick(texts.filter(candidate => shown(candidate) !== form.boxes[number - 1]));
+        form.boxes[number - 1] = shown(value);
         form.save = form.undo = true;
         return value;
     },

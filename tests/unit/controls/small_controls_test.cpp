@@ -49,6 +49,41 @@ TEST(TextBox, NoCharacterIsCutInHalfAtTheGreatestLength)
     EXPECT_EQ(box.Text(), QStringLiteral("axbc"));
 }
 
+TEST(TextBox, JoinsTheLinesThatTheUserPutsIn)
+{
+    TextBox box;
+    int changes = 0;
+    QObject::connect(&box, &TextBox::Change, &box, [&] { ++changes; });
+    box.insert(QStringLiteral("cat\r\n"));
+    EXPECT_EQ(box.Text(), QStringLiteral("cat"));
+    EXPECT_EQ(box.cursorPosition(), 3);
+    EXPECT_EQ(changes, 1);
+    box.setCursorPosition(1);
+    box.insert(QStringLiteral("\nx\n\ny"));
+    EXPECT_EQ(box.Text(), QStringLiteral("c x yat"));
+    EXPECT_EQ(box.cursorPosition(), 5);
+    EXPECT_TRUE(box.hasAcceptableInput());
+    // What the program shows stays as it is, until somebody types into it.
+    box.SetText(QStringLiteral("two\nlines"));
+    EXPECT_EQ(box.Text(), QStringLiteral("two\nlines"));
+    box.setCursorPosition(2);
+    EXPECT_EQ(box.Text(), QStringLiteral("two\nlines"));
+    input::Key(box, Qt::Key_B, QStringLiteral("b"));
+    EXPECT_EQ(box.Text(), QStringLiteral("twbo lines"));
+    EXPECT_EQ(box.cursorPosition(), 3);
+}
+
+TEST(EditableBox, TheWheelChangesNothing)
+{
+    EditableBox box;
+    box.addItems({QStringLiteral("1"), QStringLiteral("2")});
+    EXPECT_TRUE(box.isEditable());
+    QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&box, &turn);
+    EXPECT_EQ(box.currentIndex(), 0);
+    EXPECT_FALSE(turn.isAccepted());
+}
+
 TEST(TextBox, AMnemonicThatNobodyTookTypesNothing)
 {
     TextBox box;

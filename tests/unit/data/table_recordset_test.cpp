@@ -399,4 +399,23 @@ TEST_F(TableRecordset, EveryOperationCanBeMadeToFail)
     EXPECT_EQ(All().size(), 2U);
 }
 
+// Cut to its 32 bits, the number of one row would be that of another, which would be changed in its place.
+TEST_F(TableRecordset, ANumberBeyondItsSizeIsNoOtherRows)
+{
+    CreateWith({u"a"_s, u"b"_s});
+    RunRaw("INSERT INTO Dictionary(Word, WordPhrase, AutoID) VALUES('b', 1, 4294967298)");
+    const auto view = OpenTable();
+    view->rows.MoveLast();
+    EXPECT_EQ(view->Text("Word"), u"b"_s);
+    EXPECT_EQ(Raised([&] { view->Value("AutoID"); }), RuntimeError::Overflow);
+    for (const QString &order : {QString(), u" ORDER BY Word"_s}) {
+        ADODB::Connection connection;
+        connection.Open(ConnectionTo());
+        const auto rows = connection.Execute(u"SELECT * FROM Dictionary WHERE Word = 'b'"_s + order);
+        EXPECT_EQ(rows->Fields().Item(u"AutoID"_s).Value().toInt(), 2);
+        rows->MoveNext();
+        EXPECT_EQ(Raised([&] { rows->Fields().Item(u"AutoID"_s).Value(); }), RuntimeError::Overflow);
+    }
+}
+
 } // namespace

@@ -1,8 +1,8 @@
-#include "search/pure/entry_text.h"
+#include "platform/text/one_line.h"
 
 #include <QRegularExpression>
 
-QString OneLine(const QString &text)
+QString text::OneLine(const QString &text)
 {
     static const QRegularExpression lineEnds(QStringLiteral("[\\r\\n]+"));
     return text.contains(lineEnds) ? text.split(lineEnds, Qt::SkipEmptyParts).join(u' ') : text;

@@ -1,4 +1,4 @@
-#include "search/pure/entry_text.h"
+#include "platform/text/one_line.h"
 
 #include <gtest/gtest.h>
 
@@ -18,5 +18,5 @@ TEST(OneLine, JoinsLinesByABlank)
         {u"\r\n", u""},
     };
     for (const Case &each : cases)
-        EXPECT_EQ(OneLine(QString::fromUtf16(each.text)), QString::fromUtf16(each.line));
+        EXPECT_EQ(text::OneLine(QString::fromUtf16(each.text)), QString::fromUtf16(each.line));
 }

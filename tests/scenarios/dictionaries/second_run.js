@@ -1,0 +1,20 @@
+// A catalogue that never held an entry, behind a run of the program that had some: the edit of nothing saves nothing.
+const file = tempDir() + "/a.mdb";
+makeDictionary(file, [["ice", null, 1, "氷", null]]);
+setCatalogue([{name: "甲", path: file, selected: true}, {name: "乙", path: file}]);
+start();
+menu("mnuDicAdd");
+clickRow("frmDicList.DicList", 0);
+exit();
+remove(appFile("lexicons.dat"));
+start();
+check(state("Lexicons"), null, "no entries");
+menu("mnuDicAdd");
+doubleClick("frmDicList.DicList");
+setText("frmDicList.Text1", "x");
+answerFile(file);
+click("frmDicList.Command1");
+boxes();
+click("frmDicList.ButtonOK");
+click("frmDicList.ButtonQuit");
+check([boxes(), size(appFile("lexicons.dat"))], [[], 0], "nothing is written");

@@ -1,0 +1,60 @@
+// In every way of storing, blanks around all four texts go and those within stay.
+const dictionary = tempDir() + "/words.mdb";
+makeDictionary(dictionary, [["m", "p", 1, "訳", "例"]]);
+setCatalogue([{name: "語", path: dictionary, selected: true}]);
+start();
+const stored = word => rows(dictionary).filter(row => row.Word === word)
+    .map(row => [row.Pronunciation, row.WordPhrase, row.Description, row.Example, row.AutoID]);
+const fill = word => ["　" + word + " ", " p　q ", "　 訳　訳\r\n ", " 例 例　"].forEach((value, i) => setText("frmMstmnt.Text" + (i + 1), value));
+const kept = ["p　q", "訳　訳\r\n", "例 例"];
+const values = (kind, autoID) => [[kept[0], kind, kept[1], kept[2], autoID]];
+menu("mnuOpen");
+fill("m");
+click("frmMstmnt.Option2");
+answer("はい");
+click("frmMstmnt.Command6");
+check(stored("m"), values(2, 1), "changed");
+fill("r n");
+answer("はい");
+click("frmMstmnt.Command6");
+check([stored("r n"), stored("m")], [values(2, 2), []], "renamed");
+click("frmMstmnt.Command5");
+fill("a b");
+answer("はい");
+click("frmMstmnt.Command6");
+check(stored("a b"), values(1, 3), "added: the choice tells a word");
+click("frmMstmnt.Command5");
+fill("c d");
+answer("はい");
+click("frmMstmnt.Command9");
+check(stored("c d"), values(2, 4), "added at the closing: the blank tells a phrase");
+menu("mnuOpen");
+click("frmMstmnt.Command5");
+fill("e　f");
+click("frmMstmnt.Option2");
+answer("はい");
+closeForm("frmMstmnt");
+check(stored("e　f"), values(1, 5), "by the frame: a full-width blank tells none");
+
+// By the frame, with a meaning that is missing and was not meant to be.
+menu("mnuOpen");
+setText("frmMstmnt.Text3", " 　");
+answer("はい");
+answer("いいえ");
+boxes();
+closeForm("frmMstmnt");
+check([boxes().map(box => box.title), openForms(), rows(dictionary).filter(row => row.Description === "").length],
+    [["変更確認", "空欄項目確認"], ["frmFind"], 0], "only the change is lost");
+menu("mnuOpen");
+click("frmMstmnt.Command5");
+setText("frmMstmnt.Text1", "new");
+answer("はい");
+answer("いいえ");
+closeForm("frmMstmnt");
+check([boxes().map(box => box.title), openForms(), stored("new")], [["保存確認", "空欄項目確認"], ["frmFind"], []], "only the new record is");
+menu("mnuOpen");
+setText("frmMstmnt.Text3", "");
+answer("はい");
+answer("はい");
+closeForm("frmMstmnt");
+check([boxes().length, rows(dictionary)[0].Description], [2, ""], "and where it was meant, it is stored");
