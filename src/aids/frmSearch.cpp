@@ -54,8 +54,13 @@ void ChooseGap(controls::ComboBox &box, const QString &text)
 
 void ShowHint(QPlainTextEdit &hint, QWidget &gap, const QString &text)
 {
-    hint.setPlainText(text);
-    gap.setAccessibleDescription(text);
+    // Two lines show no more of it, and laying out a very long one takes long.
+    constexpr qsizetype mostShown = 2000;
+    const QString shown = text.size() <= mostShown ? text : text.first(mostShown) + QStringLiteral("…");
+    if (shown == hint.toPlainText())
+        return;
+    hint.setPlainText(shown);
+    gap.setAccessibleDescription(shown);
 }
 
 } // namespace
