@@ -31,8 +31,10 @@ void frmFavorite::ConnectHandlers()
     ConnectHandler(m_ui->Command2, &QPushButton::clicked, this, &frmFavorite::Command2_Click);
     ConnectHandler(m_ui->Command3, &QPushButton::clicked, this, &frmFavorite::Command3_Click);
     ConnectHandler(m_ui->Command4, &QPushButton::clicked, this, &frmFavorite::Command4_Click);
-    ConnectHandler(m_ui->List1, &controls::ListBox::DblClick, this, &frmFavorite::List1_DblClick);
-    connect(m_ui->List1, &controls::ListBox::MouseMove, this,
+    using controls::ListBox;
+    for (const auto signal : {&ListBox::DblClick, &ListBox::DblClickBesideRows})
+        ConnectHandler(m_ui->List1, signal, this, &frmFavorite::List1_DblClick);
+    connect(m_ui->List1, &ListBox::MouseMove, this,
             [this](const QPoint &point) { controls::RunHandler([this, point] { List1_MouseMove(point); }); });
 }
 
@@ -135,7 +137,12 @@ void frmFavorite::Command4_Click()
     GoToSelected();
 }
 
-void frmFavorite::List1_DblClick() { GoToSelected(); }
+void frmFavorite::List1_DblClick()
+{
+    // Beside the rows there may be none to go to.
+    if (m_ui->List1->ListIndex() >= 0)
+        GoToSelected();
+}
 
 void frmFavorite::GoToSelected()
 {

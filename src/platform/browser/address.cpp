@@ -18,14 +18,33 @@ QUrl browser::UrlOf(const QString &address)
     return isShown || typed == QLatin1String("about:blank") ? url : QUrl();
 }
 
+namespace
+{
+
+/// The address as people read it, but for characters that nobody sees: at its end they would be lost, and
+/// those that turn the direction would disguise it.
+QString Readable(const QUrl &url)
+{
+    QString address;
+    for (const QChar character : url.toString()) {
+        if (character.isSpace() || character.category() == QChar::Other_Format)
+            address += QString::fromLatin1(QUrl::toPercentEncoding(character));
+        else
+            address += character;
+    }
+    return address;
+}
+
+} // namespace
+
 QString browser::AddressOf(const QUrl &url)
 {
     if (!url.isLocalFile())
-        return url.toString();
+        return Readable(url);
     try {
         return files::DrivePath(url.toLocalFile());
     } catch (const RuntimeError &) {
-        return url.toString();
+        return Readable(url);
     }
 }
 

@@ -88,6 +88,9 @@ void CookieFile::Save()
     for (const QNetworkCookie &cookie : std::as_const(m_cookies))
         if (!IsOver(cookie))
             content += cookie.toRawForm() + '\n';
+    // From its beginning it is nobody else's.
+    if (QFile file(files::HostPathOrEmpty(m_path)); !file.exists())
+        file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
     try {
         files::Replace(m_path, content);
         QFile::setPermissions(files::HostPath(m_path), QFile::ReadOwner | QFile::WriteOwner);

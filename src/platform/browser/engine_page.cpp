@@ -1,7 +1,10 @@
 #include "platform/browser/engine_page.h"
 
 #include "platform/browser/address.h"
+#include "platform/controls/handler.h"
+#include "platform/dialogs/dialogs.h"
 
+#include <QAction>
 #include <QColor>
 #include <QFontDatabase>
 #include <QTimer>
@@ -11,6 +14,7 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
+#include <array>
 
 namespace browser
 {
@@ -96,6 +100,7 @@ QString RefusedCertificatePage(const QWebEngineCertificateError &error)
 EnginePage::EnginePage(QWebEngineProfile *profile, QObject *parent) : QWebEnginePage(profile, parent)
 {
     setBackgroundColor(QColor(Qt::white));
+    NameActions();
     ApplySettings(QUrl());
     connect(this, &QWebEnginePage::urlChanged, this, &EnginePage::SettleFor);
     // A load that was stopped, or became a download, leaves the page that was there.
@@ -135,8 +140,91 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
         return false;
     m_webIsComing = IsWebPage(target);
     m_coming = target;
+    m_boxes = 0;
+    m_isSilenced = false;
     ApplySettings(target);
     return true;
+}
+
+bool EnginePage::MayShowBox(const QUrl &origin)
+{
+    constexpr int fewBoxes = 3;
+    if (!m_isSilenced && m_boxes > 0 && m_boxes % fewBoxes == 0)
+        m_isSilenced =
+            dialogs::MsgBox(
+                QStringLiteral("このページは続けてメッセージを表示しようとしています。\r\n表示しますか？"),
+                dialogs::YesNo | dialogs::Question, origin.host()) != dialogs::Yes;
+    ++m_boxes;
+    return !m_isSilenced;
+}
+
+void EnginePage::javaScriptAlert(const QUrl &origin, const QString &text)
+{
+    controls::RunHandler([&] {
+        if (MayShowBox(origin))
+            dialogs::MsgBox(text, dialogs::Information, origin.host());
+    });
+}
+
+bool EnginePage::javaScriptConfirm(const QUrl &origin, const QString &text)
+{
+    bool isConfirmed = false;
+    controls::RunHandler([&] {
+        isConfirmed = MayShowBox(origin) && dialogs::MsgBox(text, dialogs::OKCancel | dialogs::Question,
+                                                            origin.host()) == dialogs::OK;
+    });
+    return isConfirmed;
+}
+
+bool EnginePage::javaScriptPrompt(const QUrl &origin, const QString &text, const QString &given,
+                                  QString *answer)
+{
+    controls::RunHandler([&] {
+        if (MayShowBox(origin))
+            *answer = dialogs::InputBox(text, origin.host(), given);
+    });
+    return !answer->isEmpty();
+}
+
+/// The menu of a page in the user's language, and without what a window alone cannot do.
+void EnginePage::NameActions()
+{
+    struct Name {
+        WebAction action;
+        const char16_t *text;
+    };
+    constexpr std::array names{
+        Name{Back, u"戻る"},
+        Name{Forward, u"進む"},
+        Name{Reload, u"最新の情報に更新"},
+        Name{Stop, u"中止"},
+        Name{Undo, u"元に戻す"},
+        Name{Redo, u"やり直し"},
+        Name{Cut, u"切り取り"},
+        Name{Copy, u"コピー"},
+        Name{Paste, u"貼り付け"},
+        Name{PasteAndMatchStyle, u"書式なしで貼り付け"},
+        Name{SelectAll, u"すべて選択"},
+        Name{Unselect, u"選択の解除"},
+        Name{OpenLinkInNewWindow, u"リンクを開く"},
+        Name{CopyLinkToClipboard, u"リンクのアドレスをコピー"},
+        Name{DownloadLinkToDisk, u"リンク先を保存..."},
+        Name{CopyImageToClipboard, u"画像をコピー"},
+        Name{CopyImageUrlToClipboard, u"画像のアドレスをコピー"},
+        Name{DownloadImageToDisk, u"画像を保存..."},
+        Name{CopyMediaUrlToClipboard, u"メディアのアドレスをコピー"},
+        Name{DownloadMediaToDisk, u"メディアを保存..."},
+        Name{ToggleMediaControls, u"操作ボタンの表示"},
+        Name{ToggleMediaLoop, u"繰り返し再生"},
+        Name{ToggleMediaPlayPause, u"再生／一時停止"},
+        Name{ToggleMediaMute, u"消音"},
+        Name{ExitFullScreen, u"全画面表示の終了"},
+        Name{SavePage, u"ページを保存..."},
+    };
+    for (const Name &name : names)
+        action(name.action)->setText(QString::fromUtf16(name.text));
+    for (const WebAction unused : {OpenLinkInNewTab, OpenLinkInNewBackgroundTab, ViewSource, InspectElement})
+        action(unused)->setVisible(false);
 }
 
 void EnginePage::StopLoading()

@@ -26,17 +26,28 @@ Q_SIGNALS:
 
 protected:
     bool acceptNavigationRequest(const QUrl &target, NavigationType type, bool isMainFrame) override;
+    // The boxes of a page's script are the program's own, and a page that shows one after the other can be
+    // silenced.
+    void javaScriptAlert(const QUrl &origin, const QString &text) override;
+    bool javaScriptConfirm(const QUrl &origin, const QString &text) override;
+    bool javaScriptPrompt(const QUrl &origin, const QString &text, const QString &given,
+                          QString *answer) override;
 
 private:
+    void NameActions();
+    /// Whether one more box of the page is shown; the user may have refused.
+    bool MayShowBox(const QUrl &origin);
     void ApplySettings(const QUrl &shown);
     /// No other page is on its way any more.
     void SettleFor(const QUrl &shown);
 
     QUrl m_home, m_coming;
     bool m_webIsComing = false;
+    int m_boxes = 0; ///< that the page has shown since it was opened
+    bool m_isSilenced = false;
 };
 
-/// A profile that keeps nothing beyond the run, with the fonts of a Japanese desktop.
+/// A profile that by itself keeps nothing beyond the run, with the fonts of a Japanese desktop.
 QWebEngineProfile *MakeProfile(QObject *parent);
 
 } // namespace browser

@@ -138,8 +138,12 @@ void EnginePane::ConnectPage()
     });
     connect(m_page, &QWebEnginePage::loadFinished, this, [this] {
         // The end of a load that another one has superseded says nothing about that one.
-        if (!m_awaitsStart)
+        if (!m_awaitsStart) {
             m_loading = m_page->isLoading();
+            // Neither address nor title need have changed: what was half typed in the address box goes.
+            if (!m_loading)
+                Q_EMIT TitleChanged(Title());
+        }
         Q_EMIT StatusChanged(QStringLiteral("ページが表示されました"));
     });
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this,

@@ -43,6 +43,15 @@ void ReserveCanvas(QWidget *parent)
     canvas->resize(1, 1);
 }
 
+/// Keeps what was asked of the pane, but not of a whole day.
+template <typename Value> void Note(QList<Value> &asked, const Value &value)
+{
+    constexpr qsizetype mostKept = 1000;
+    if (asked.size() == mostKept)
+        asked.removeFirst();
+    asked.append(value);
+}
+
 } // namespace
 
 void SetBackend(Backend newBackend) { backend = newBackend; }
@@ -97,7 +106,7 @@ void WebBrowser::CreateView()
 
 void WebBrowser::Navigate(const QString &address)
 {
-    m_navigations.append(address);
+    Note(m_navigations, address);
     if (m_pane)
         Open(address);
     else
@@ -107,7 +116,7 @@ void WebBrowser::Navigate(const QString &address)
 void WebBrowser::NavigateToKept(const QString &address)
 {
     if (QUrl(address.trimmed()).isLocalFile()) {
-        m_navigations.append(address);
+        Note(m_navigations, address);
         TellNotFound();
         return;
     }
@@ -176,7 +185,7 @@ QString WebBrowser::LocationName() const { return m_pane ? m_pane->Title() : QSt
 
 void WebBrowser::ExecWB(int command, int)
 {
-    m_commands.append(command);
+    Note(m_commands, command);
     faults::Point("ExecWB");
     if (!m_pane)
         throw RuntimeError(RuntimeError::CannotOpenDatabase, RuntimeError::defaultSource(),

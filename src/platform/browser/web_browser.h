@@ -66,8 +66,8 @@ public:
     /// Opens the find bar, as Ctrl+F in the pane does.
     void ShowFindBar();
 
-    /// For tests: addresses as they were given and commands run since the last call; the page's
-    /// text as shown; whether a load is still in progress.
+    /// For tests: addresses as they were given and commands run since the last call, the latest thousand; the
+    /// page's text as shown; whether a load is still in progress.
     QStringList TakeNavigations();
     QList<int> TakeCommands();
     QString ShownText() const;

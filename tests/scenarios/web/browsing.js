@@ -117,9 +117,10 @@ const browse = () => {
     press(box, "Enter");
     mouseDown("frmFind.Picture24");
     check(settle(), true, "stopped at once by the picture");
+    ok(paneText().includes("first page"), "and the page that was there stays again");
 
-    // No server, and no such host: the browser's own page, without a box.
-    for (const address of ["http://127.0.0.1:9/", "http://no-such-host.invalid/"]) {
+    // No server, and no such place: the browser's own page, without a box.
+    for (const address of ["http://127.0.0.1:9/", "http://127.0.0.256/"]) {
         go(address);
         check(text(box), address, "the address stays: " + address);
         check(boxes(), [], "the program says nothing: " + address);

@@ -294,13 +294,17 @@ TEST_P(EngineTest, WebPagesKeepTheirScriptAndLocalPagesStayWithout)
     pane->Navigate(server.Address());
     EXPECT_TRUE(Shows(QStringLiteral("scripted")));
     EXPECT_EQ(pane->LocationURL(), server.Address());
+    auto *view = pane->findChild<QWebEngineView *>();
+    EXPECT_TRUE(input::Until([view] { return view->contextMenuPolicy() == Qt::DefaultContextMenu; }));
+    EXPECT_EQ(view->page()->action(QWebEnginePage::Back)->text(), QStringLiteral("戻る"));
+    EXPECT_EQ(view->page()->action(QWebEnginePage::SavePage)->text(), QStringLiteral("ページを保存..."));
+    EXPECT_FALSE(view->page()->action(QWebEnginePage::ViewSource)->isVisible());
     pane->GoBack();
     EXPECT_TRUE(Shows(QStringLiteral("quiet")));
     pane->GoForward();
     EXPECT_TRUE(Shows(QStringLiteral("scripted")));
     pane->Navigate(local);
     EXPECT_TRUE(Shows(QStringLiteral("quiet")));
-    auto *view = pane->findChild<QWebEngineView *>();
     EXPECT_EQ(view->contextMenuPolicy(), Qt::NoContextMenu);
 }
 
@@ -614,6 +618,14 @@ TEST(Address, IsUnderstoodAsTyped)
     EXPECT_EQ(AddressOf(UrlOf(QStringLiteral("Z:\\tmp\\a b.html"))), QStringLiteral("Z:\\tmp\\a b.html"));
     EXPECT_EQ(AddressOf(QUrl(QStringLiteral("http://example.com/"))), QStringLiteral("http://example.com/"));
     EXPECT_EQ(AddressOf(QUrl()), QString());
+    // People read what they can see; what they cannot stays in its code.
+    for (const auto &[url, shown] : {std::pair("http://a.jp/?q=%E7%8C%AB", "http://a.jp/?q=猫"),
+                                     std::pair("http://a.jp/?q=cat%20", "http://a.jp/?q=cat%20"),
+                                     std::pair("http://a.jp/?q=%E3%80%80", "http://a.jp/?q=%E3%80%80"),
+                                     std::pair("http://a.jp/?q=%E2%80%AEx", "http://a.jp/?q=%E2%80%AEx")}) {
+        EXPECT_EQ(AddressOf(QUrl(QString::fromUtf8(url))), QString::fromUtf8(shown));
+        EXPECT_EQ(UrlOf(QString::fromUtf8(shown)), QUrl(QString::fromUtf8(url)));
+    }
 }
 
 } // namespace
