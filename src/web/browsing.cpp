@@ -131,7 +131,13 @@ void frmFind::Combo2_KeyPress(int character, bool *swallow)
 
 void frmFind::Combo2_Click() { GoToAddress(); }
 
-void frmFind::WebBrowser1_TitleChange() { Combo2->setEditText(WebBrowser1->LocationURL()); }
+void frmFind::WebBrowser1_TitleChange()
+{
+    // Set anew, the same text would lose its selection, and typing would no longer replace it.
+    const QString address = WebBrowser1->LocationURL();
+    if (Combo2->currentText() != address)
+        Combo2->setEditText(address);
+}
 
 void frmFind::mnuGoBack_Click() { BrowserCommand(GoBack); }
 void frmFind::mnuGoForward_Click() { BrowserCommand(GoForward); }

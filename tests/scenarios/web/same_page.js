@@ -8,6 +8,7 @@ writeBytes(appFile("favorite.dat"), field("a", 128) + field(site + "second", 255
 menu("mnuSrchWebSite");
 settle();
 check([state("SearchMode"), boxes()], [7, []], "web mode");
+check(selectedText(box), text(box), "typing replaces the address, for no load has taken the selection away");
 
 const browse = () => {
     const go = address => { setText(box, address); press(box, "Enter"); settle(); };
