@@ -5,6 +5,7 @@ const box = "frmFind.Combo2";
 const field = (bytes, length) => (bytes + " ".repeat(length)).slice(0, length);
 start();
 writeBytes(appFile("favorite.dat"), field("a", 128) + field(site + "second", 255));
+settle();
 menu("mnuSrchWebSite");
 settle();
 check([state("SearchMode"), boxes()], [7, []], "web mode");
