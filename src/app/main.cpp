@@ -17,6 +17,7 @@ int main(int argc, char *argv[])
     Program program(options);
     // Queued, because the run may end before the event loop has begun.
     QObject::connect(&program, &Program::Ended, &application, &QApplication::quit, Qt::QueuedConnection);
+    host::OnEndSignal(&program, [&program] { program.End(); });
     QTimer::singleShot(0, &program, &Program::Start);
     return QApplication::exec();
 }

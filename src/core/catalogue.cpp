@@ -25,7 +25,7 @@ std::int16_t LoadLexicons(const QString &fileName)
     files::FixedRecordFile file(AppFilePath(fileName), kLexiconRecordLength);
     const auto count = CheckedTo<std::int16_t>(file.Count());
     QList<Lexicon> lexicons;
-    for (std::int16_t i = 1; i <= count; ++i)
+    for (int i = 1; i <= count; ++i)
         lexicons.append(DecodeLexicon(file.Read(i)));
     file.Close();
 

@@ -72,6 +72,18 @@ void Program::LeaveSplash()
     window->ShowForm();
 }
 
+void Program::End()
+{
+    const QList<controls::Form *> forms = controls::Form::Loaded();
+    for (auto form = forms.crbegin(); form != forms.crend(); ++form)
+        if (*form != MainWindow())
+            (*form)->Unload(controls::UnloadReason::Exit);
+    if (frmFind *window = MainWindow())
+        window->Unload(controls::UnloadReason::Exit);
+    else
+        Q_EMIT Ended();
+}
+
 void Program::PrepareProcess(const QString &shareFolder)
 {
     const QString fonts = shareFolder + QStringLiteral("/fonts.conf");
@@ -101,6 +113,8 @@ void Program::PrepareApplication()
     host::SetBeforeTurnHook(ADODB::ReleaseReads);
     dialogs::SetBeforeBoxHook(ADODB::CommitGroups);
     ADODB::EngineHooks().progress = host::DoEvents;
+    // A key or a choice waits until the one before it has been answered.
+    ADODB::EngineHooks().opening = host::DoEventsWithoutInput;
     // Behind the work the pointer is what it was: a search may run under the hourglass, and the work of
     // one file may begin in a turn of the event loop that the work of another lets through.
     ADODB::EngineHooks().busy = [before = std::vector<int>()](bool busy) mutable {

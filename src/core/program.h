@@ -29,6 +29,8 @@ public:
     /// Goes through the splash; returns when the main window stands, or when the run has ended
     /// because another instance has the folder.
     void Start();
+    /// Ends the run, whatever is open: every form is unloaded as at the program's end, the main window last.
+    void End();
     /// Whether this run gave way to another instance.
     bool GaveWay() const { return m_gaveWay; }
 

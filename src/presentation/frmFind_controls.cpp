@@ -162,8 +162,7 @@ void frmFind::MakePictures()
         m_pictures[static_cast<std::size_t>(number)] =
             make(QStringLiteral("Picture%1").arg(number), QStringLiteral("picture_%1").arg(number),
                  PictureToolTip(number));
-    for (const int number : {14, 15, 17, 18})
-        PictureOf(number)->hide();
+    HideHitPaging();
 }
 
 void frmFind::OrderTabs()

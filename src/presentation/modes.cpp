@@ -181,18 +181,14 @@ void frmFind::Combo1_Click()
         QList<Lexicon> &lexicons = *Shared.Lexicons;
         for (Lexicon &lexicon : lexicons)
             lexicon.IsSelected = 0;
-        for (qsizetype slot = 0; slot + 1 < lexicons.size(); ++slot) {
+        if (const qsizetype slot = SlotNamed(lexicons, Combo1->Text()); slot >= 0) {
             Lexicon &lexicon = lexicons[slot];
-            if (lexicon.IsDeleted != 0 || !text::Same(lexicon.DicName, Combo1->Text()))
-                continue;
             lexicon.IsSelected = -1;
             Shared.CurrentDicName = lexicon.DicName;
             Shared.CurrentDicPath = lexicon.DicPath;
-            break;
         }
     }
-    for (const int number : {14, 15, 17, 18})
-        PictureOf(number)->hide();
+    HideHitPaging();
     if (Shared.SearchMode != ModeIncremental)
         files::DeleteIfThere(ResultStorePath());
     TakeMode(ModeIncremental);
@@ -220,6 +216,9 @@ void frmFind::ClearSearch()
     ShowBlankPage();
     StatusBar1->SetSimpleText(QStringLiteral("Ready"));
     txtFind->setFocus();
-    if (Shared.SearchMode != ModeIncremental)
-        files::DeleteIfThere(ResultStorePath());
+    if (Shared.SearchMode == ModeIncremental)
+        return;
+    // Without the results there is nothing to page through.
+    HideHitPaging();
+    files::DeleteIfThere(ResultStorePath());
 }

@@ -95,9 +95,12 @@ std::uint8_t frmFind::RunListSearch(std::uint8_t &target)
         return 1;
     }
     const ListRequest request = TakeConditions(parts, target);
-    Shared.SearchConnection = std::make_shared<ADODB::Connection>();
-    Shared.SearchConnection->SetConnectionString(SearchConnectionString(Shared.CurrentDicPath));
-    Shared.SearchConnection->Open();
+    // Its own hold, as in OpenView.
+    const auto connection = std::make_shared<ADODB::Connection>();
+    Shared.SearchConnection = connection;
+    connection->SetConnectionString(SearchConnectionString(Shared.CurrentDicPath));
+    connection->Open();
+    Shared.SearchConnection = connection;
     Shared.SearchRecordset = Shared.SearchConnection->Execute(ListStatement(request), ADODB::adCmdText);
     files::DeleteIfThere(ResultStorePath());
     const std::int32_t rows = StoreHits();
@@ -364,8 +367,8 @@ void frmFind::ShowListPage(std::int32_t page, std::int32_t first)
 void frmFind::Picture14_MouseDown()
 {
     // So many hits may have been removed that the page in front of this one is none any more.
-    const std::int32_t pages = (Shared.HitCount + Shared.ListPageSize - 1) / Shared.ListPageSize;
-    const std::int32_t page = std::min(Shared.ListPageNo - 1, pages);
+    const std::int32_t pageSize = std::max<std::int32_t>(Shared.ListPageSize, 1);
+    const std::int32_t page = std::min(Shared.ListPageNo - 1, (Shared.HitCount + pageSize - 1) / pageSize);
     if (page >= 1) {
         ShowListPage(page, (page - 1) * Shared.ListPageSize + 1);
     } else {

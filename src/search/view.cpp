@@ -18,8 +18,11 @@ std::int32_t AutoIDOf(ADODB::Recordset &rows)
 void OpenView()
 {
     Shared.ViewRecordset.reset();
-    Shared.ViewConnection = std::make_shared<ADODB::Connection>();
-    Shared.ViewConnection->Open(ViewConnectionString(Shared.CurrentDicPath));
+    // Its own hold: opening may build an index, and what happens meanwhile may release the shared one.
+    const auto connection = std::make_shared<ADODB::Connection>();
+    Shared.ViewConnection = connection;
+    connection->Open(ViewConnectionString(Shared.CurrentDicPath));
+    Shared.ViewConnection = connection;
     Shared.ViewRecordset = std::make_shared<ADODB::Recordset>();
 }
 
@@ -49,7 +52,7 @@ bool SeekResult(ADODB::Recordset &table, const ResultKey &key)
         return false;
     const QString word = TextOf(*row, u"Word");
     row->Close();
-    const QString trimmed = text::Trim(word);
+    const QString trimmed = text::FieldText(word);
     if (key.wordMayBeCut ? !trimmed.startsWith(key.word) : trimmed != key.word)
         return false;
     table.Seek(word, key.autoID, ADODB::adSeekFirstEQ);

@@ -3,12 +3,12 @@
 #include "core/pure/record_rules.h"
 #include "platform/data/adox.h"
 #include "platform/data/dictionary_file.h"
+#include "platform/data/session.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/files/drive_path.h"
 #include "platform/files/file_operations.h"
 #include "platform/text/trim.h"
 
-#include <QFile>
 #include <QScopeGuard>
 
 QString ViewConnectionString(const QString &path)
@@ -60,15 +60,18 @@ void MakeDictionary(const QString &path)
     table.AppendKey(key);
 }
 
-/// Whether the file is what a making that ended early has left: a database, or not even begun.
+/// Whether the file is what a making that ended early has left: no row was ever stored in it.
 bool IsLeftOver(const QString &path)
 {
-    QFile file(files::HostPath(path));
-    constexpr QByteArrayView mark("SQLite format 3");
-    if (!file.open(QIODevice::ReadOnly))
+    if (!files::Exists(path))
         return false;
-    const QByteArray begin = file.read(mark.size());
-    return begin.isEmpty() || begin == mark;
+    try {
+        const data::Session session(files::HostPath(path), path, data::Session::Access::ReadOnly);
+        return session.NumberOf("SELECT count(*) FROM sqlite_schema WHERE name = 'Dictionary'") == 0 ||
+               session.NumberOf("SELECT EXISTS(SELECT 1 FROM Dictionary)") == 0;
+    } catch (const RuntimeError &) {
+        return false;
+    }
 }
 
 void TakeAway(const QString &path) noexcept
@@ -94,6 +97,9 @@ void CreateDictionaryFile(const QString &path)
     data::RequireNothingAt(files::HostPath(unfinished));
     auto takeAway = qScopeGuard([&unfinished] { TakeAway(unfinished); });
     MakeDictionary(unfinished);
+    // A journal is of a file that is there no more; it would be played back into the new one.
+    for (const QString &ending : {QStringLiteral("-journal"), QStringLiteral("-wal"), QStringLiteral("-shm")})
+        TakeAway(trimmed + ending);
     files::Rename(unfinished, trimmed);
     takeAway.dismiss();
 }

@@ -38,13 +38,7 @@ qsizetype FindFreeSlot(const LexiconArray &lexicons)
 
 qsizetype FindDicName(const LexiconArray &lexicons, const QString &name)
 {
-    const QString sought = text::Trim(name);
-    for (qsizetype slot = 0; slot < SlotCount(lexicons); ++slot) {
-        const Lexicon &entry = lexicons->at(slot);
-        if (entry.IsDeleted == 0 && text::Same(text::Trim(entry.DicName), sought))
-            return slot;
-    }
-    return -1;
+    return lexicons ? SlotNamed(*lexicons, name) : -1;
 }
 
 std::int16_t DicNameExists(const LexiconArray &lexicons, const QString &name)

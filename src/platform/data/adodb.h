@@ -149,6 +149,9 @@ private:
 struct Hooks {
     /// Called about every 50 ms in long work of the engine (building an index, compacting).
     std::function<void()> progress;
+    /// Called in its place while a dictionary is being opened; empty for the same. What it lets happen must
+    /// not open one.
+    std::function<void()> opening;
     /// Called with true before and false after such work.
     std::function<void(bool)> busy;
     /// Called with each statement that Execute or Open runs.

@@ -39,6 +39,7 @@ std::shared_ptr<Session> OpenDictionaryFile(const QString &drivePath)
         RaiseCode(SQLITE_NOTADB);
     if (content.table != TableState::Whole || content.hasIndex)
         return session;
+    const Opening opening;
     if (!session->IsWritable())
         return std::make_shared<Session>(IndexedCopyOf(hostPath), drivePath, Session::Access::ReadOnly);
     BuildIndex(*session);

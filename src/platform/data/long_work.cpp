@@ -20,6 +20,14 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kProgressInterval{50};
 
+int openings = 0;
+
+const std::function<void()> &ProgressHook()
+{
+    const ADODB::Hooks &hooks = ADODB::EngineHooks();
+    return openings > 0 && hooks.opening ? hooks.opening : hooks.progress;
+}
+
 /// When events are let through next, in whatever way the work goes on.
 Clock::time_point &NextProgress()
 {
@@ -70,11 +78,14 @@ private:
 
 } // namespace
 
+Opening::Opening() { ++openings; }
+Opening::~Opening() { --openings; }
+
 void LetEventsThrough()
 {
-    if (Clock::now() < NextProgress() || !ADODB::EngineHooks().progress)
+    if (Clock::now() < NextProgress() || !ProgressHook())
         return;
-    ADODB::EngineHooks().progress();
+    ProgressHook()();
     NextProgress() = Clock::now() + kProgressInterval;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/data/pending_row.h"
 
 #include "platform/data/operation.h"
+#include "platform/data/row_reader.h"
 #include "platform/data/schema.h"
 
 #include <algorithm>
@@ -57,7 +58,9 @@ QVariant PendingRow::ValueOf(Column column) const
     const Value &value = At(column);
     if (value.isNull)
         return {};
-    return column == WordPhrase ? QVariant(value.number) : QVariant(QString::fromUtf8(value.text));
+    return column == WordPhrase
+               ? QVariant(value.number)
+               : QVariant(FromUtf8({value.text.constData(), static_cast<std::size_t>(value.text.size())}));
 }
 
 bool PendingRow::IsEmpty() const { return std::ranges::none_of(m_values, &Value::isSet); }

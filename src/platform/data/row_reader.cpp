@@ -34,7 +34,13 @@ QVariant RowReader::Value(Column column) const
 
 QString FromUtf8(std::string_view bytes)
 {
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    // The toolkit takes the character for a mark of the encoding at the beginning; here it is one of the
+    // text.
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    QString text;
+    for (; bytes.starts_with(mark); bytes.remove_prefix(mark.size()))
+        text += QChar(QChar::ByteOrderMark);
+    return text + QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
 } // namespace data

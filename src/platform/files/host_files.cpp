@@ -160,8 +160,8 @@ bool files::host::IsFile(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar::Null))
         return false;
-    const QFileInfo info(path);
-    return info.exists() && !info.isDir();
+    // Neither a folder nor a device nor a pipe, which might never give an end.
+    return QFileInfo(path).isFile();
 }
 
 void files::host::RequireWritable(const QString &path)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QObject>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -12,6 +13,9 @@ namespace host
 /// One turn of the event loop: delivers what waits, painting included.
 void DoEvents();
 
+/// The same, but the user's input waits: for work within which none can be taken.
+void DoEventsWithoutInput();
+
 /// A yield of a row loop: as DoEvents, but the turn may be skipped when less than 5 ms have passed
 /// since the last one. Hooks run all the same.
 void YieldRow();
@@ -21,6 +25,10 @@ void SetYieldHook(std::function<void()> hook);
 /// Called before every turn of the event loop that this module makes (not at a skipped one), so
 /// that the data engine can give up its locks.
 void SetBeforeTurnHook(std::function<void()> hook);
+
+/// Has the event loop call `end` when the system asks the process to end (SIGTERM, SIGHUP, SIGINT), the
+/// first time; another time the process ends at once. Once in a process.
+void OnEndSignal(QObject *context, const std::function<void()> &end);
 
 /// Waits that long with the event loop running, milliseconds.
 void Sleep(int milliseconds);

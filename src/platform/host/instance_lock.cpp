@@ -34,14 +34,26 @@ QString LockFolder()
     return IsPrivateFolder(own) ? own : QString();
 }
 
+/// The folder without symbolic links on the way, though it may not be there yet.
+QString RealPath(const QString &folder)
+{
+    QString there = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    QString rest;
+    while (!QFileInfo::exists(there) && there.size() > 1) {
+        const QFileInfo info(there);
+        rest.prepend(QLatin1Char('/') + info.fileName());
+        there = info.path();
+    }
+    return QFileInfo(there).canonicalFilePath() + rest;
+}
+
 QString LockFile(const QString &folder)
 {
     const QString place = LockFolder();
     if (place.isEmpty())
         return {};
-    const QFileInfo info(folder);
-    const QString real = info.exists() ? info.canonicalFilePath() : QDir::cleanPath(info.absoluteFilePath());
-    const QByteArray name = QCryptographicHash::hash(real.toUtf8(), QCryptographicHash::Sha256).toHex();
+    const QByteArray name =
+        QCryptographicHash::hash(RealPath(folder).toUtf8(), QCryptographicHash::Sha256).toHex();
     return place + QStringLiteral("/wordmere-") + QString::fromLatin1(name) + QStringLiteral(".lock");
 }
 

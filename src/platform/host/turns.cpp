@@ -27,10 +27,10 @@ void CallBeforeTurnHook()
         hook();
 }
 
-void Turn()
+void Turn(QEventLoop::ProcessEventsFlags events = QEventLoop::AllEvents)
 {
     CallBeforeTurnHook();
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(events);
     sinceLastTurn.start();
 }
 
@@ -40,6 +40,12 @@ void host::DoEvents()
 {
     CallYieldHook();
     Turn();
+}
+
+void host::DoEventsWithoutInput()
+{
+    CallYieldHook();
+    Turn(QEventLoop::ExcludeUserInputEvents);
 }
 
 void host::YieldRow()

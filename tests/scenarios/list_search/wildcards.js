@@ -39,7 +39,6 @@ check(search("%").length, 15, "the empty headword is one too");
 check(boxes(), [], "no box so far");
 
 // A bracket without its end is no pattern: told, and the window goes on.
-const before = [state("HitCount"), state("ListFirstPos")];
 for (const by of ["Enter", "button"]) {
     setText("frmFind.txtFind", "c[at");
     answer("OK");

@@ -4,15 +4,34 @@
 #include "platform/host/looks.h"
 
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/stat.h>
 
 namespace
 {
+
+TEST(EndSignal, IsTakenByTheEventLoop)
+{
+    const auto context = std::make_unique<QObject>();
+    int ends = 0;
+    host::OnEndSignal(context.get(), [&] { ++ends; });
+    std::raise(SIGHUP);
+    EXPECT_EQ(ends, 0);
+    EXPECT_TRUE(input::Until([&] { return ends == 1; }));
+    std::raise(SIGTERM);
+    EXPECT_TRUE(input::Until([&] { return ends == 2; }));
+    // Another of the same kind ends the process at once.
+    EXPECT_EXIT(std::raise(SIGTERM), testing::KilledBySignal(SIGTERM), "");
+    std::signal(SIGINT, SIG_DFL);
+}
 
 TEST(Turns, HooksRunAtEveryYieldButTurnsAreSkipped)
 {
@@ -125,6 +144,20 @@ TEST(InstanceLock, IsHeldByOneOfAFolder)
     }
     const host::InstanceLock third(folder.path());
     EXPECT_FALSE(third.HeldElsewhere());
+}
+
+TEST(InstanceLock, IsTheSameBeforeTheFolderIsThere)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("real")));
+    ASSERT_TRUE(
+        QFile::link(folder.filePath(QStringLiteral("real")), folder.filePath(QStringLiteral("link"))));
+    const QString there = folder.filePath(QStringLiteral("link/not/yet"));
+    const host::InstanceLock first(there);
+    EXPECT_FALSE(first.HeldElsewhere());
+    EXPECT_TRUE(host::InstanceLock(folder.filePath(QStringLiteral("real/not/yet"))).HeldElsewhere());
+    ASSERT_TRUE(QDir().mkpath(there));
+    EXPECT_TRUE(host::InstanceLock(there).HeldElsewhere());
 }
 
 TEST(InstanceLock, WritesNothingIntoTheFolder)

@@ -62,3 +62,29 @@ TEST(CatalogueRecord, ALongTextIsCutOnACharacter)
               u"a"_s + QString(24, u'語'));
     EXPECT_EQ(ThereAndBack(Entry(QString(47, u'a') + u'é', u"C:\\a"_s)).DicName, QString(47, u'a'));
 }
+
+TEST(CatalogueRecord, WhatIsNoShiftJisStaysUntilItIsChanged)
+{
+    const QByteArray path = QByteArray("Z:\\\xe8\xbe\x9e\xe6\x9b\xb8\\a.mdb").leftJustified(255, ' ');
+    const QByteArray name = QByteArray(50, '\xff');
+    const QByteArray record = name + path + QByteArray("\xff\xff\0\0", 4);
+    Lexicon lexicon = DecodeLexicon(record);
+    EXPECT_EQ(EncodeLexicon(lexicon), record);
+    lexicon.IsSelected = 0;
+    EXPECT_EQ(EncodeLexicon(lexicon).first(305), record.first(305));
+    lexicon.DicName = u"new"_s;
+    EXPECT_EQ(EncodeLexicon(lexicon).first(305), QByteArray("new").leftJustified(50, ' ') + path);
+}
+
+TEST(CatalogueRecord, ANameIsFoundAsItIsWrittenFirst)
+{
+    QList<Lexicon> lexicons{Entry(u"ABC"_s, u"a"_s), Entry(u"abc"_s, u"b"_s), Entry(u"gone"_s, u"c"_s),
+                            Entry(u"spare"_s, u"d"_s)};
+    lexicons[2].IsDeleted = -1;
+    EXPECT_EQ(SlotNamed(lexicons, u"ABC"_s), 0);
+    EXPECT_EQ(SlotNamed(lexicons, u" abc "_s), 1);
+    EXPECT_EQ(SlotNamed(lexicons, u"ａｂｃ"_s), 0);
+    EXPECT_EQ(SlotNamed(lexicons, u"gone"_s), -1);
+    EXPECT_EQ(SlotNamed(lexicons, u"spare"_s), -1);
+    EXPECT_EQ(SlotNamed({}, u"x"_s), -1);
+}

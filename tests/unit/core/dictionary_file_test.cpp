@@ -99,12 +99,32 @@ TEST_F(NewDictionary, TakesAwayItsOwnLeftOversOnly)
     ASSERT_TRUE(put("somebody's"));
     EXPECT_THROW(CreateDictionaryFile(other), RuntimeError);
     EXPECT_TRUE(QFile::exists(beside));
-    for (const QByteArray &leftOver : {QByteArray(), QByteArray("SQLite format 3\0and so on", 26)}) {
-        ASSERT_TRUE(put(leftOver));
+    // Nor a dictionary of somebody's under that name, and be it of one row.
+    Add(u"row"_s);
+    m_table.Close();
+    m_connection.Close();
+    const QString full = m_folder.filePath(u"new.mdb"_s);
+    ASSERT_TRUE(QFile::remove(beside) && QFile::copy(full, beside));
+    EXPECT_THROW(CreateDictionaryFile(other), RuntimeError);
+    EXPECT_TRUE(QFile::exists(beside));
+    // What a making leaves has no row, or nothing at all.
+    ASSERT_TRUE(QFile::remove(beside));
+    CreateDictionaryFile(files::DrivePath(beside));
+    for (const bool isMade : {true, false}) {
+        if (!isMade) {
+            ASSERT_TRUE(put(QByteArray()));
+        }
         CreateDictionaryFile(other);
         EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), (QStringList{u"new.mdb"_s, u"other.mdb"_s}));
         QFile::remove(m_folder.filePath(u"other.mdb"_s));
     }
+    // The journal of a file that was deleted is none of the new one's.
+    const auto journal = [this] { return m_folder.filePath(u"other.mdb-journal"_s); };
+    QFile stale(journal());
+    ASSERT_TRUE(stale.open(QIODevice::WriteOnly) && stale.write("stale") == 5);
+    stale.close();
+    CreateDictionaryFile(other);
+    EXPECT_FALSE(QFile::exists(journal()));
 }
 
 TEST_F(NewDictionary, OrdersEqualHeadwordsByNumber)
