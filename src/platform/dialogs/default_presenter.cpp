@@ -10,6 +10,7 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
@@ -158,8 +159,28 @@ bool UserWantsNewFile(const QString &hostPath, QWidget *parent)
     return PresentMessage(box, parent).answer == Yes;
 }
 
+/// The kinds of files in the list, in the user's language.
+class FileTypes : public QFileIconProvider
+{
+public:
+    QString type(const QFileInfo &file) const override
+    {
+        if (file.isDir())
+            return QStringLiteral("フォルダ");
+        return file.suffix().isEmpty() ? QStringLiteral("ファイル")
+                                       : file.suffix().toUpper() + QStringLiteral(" ファイル");
+    }
+};
+
 void LabelFileDialog(QFileDialog &dialog, const QString &acceptWord)
 {
+    static const auto types = new FileTypes;
+    dialog.setIconProvider(types);
+    // Without what it leads to, a label shows the mark of its key as it stands.
+    for (const auto &[label, box] :
+         {std::pair("lookInLabel", "lookInCombo"), std::pair("fileTypeLabel", "fileTypeCombo")})
+        if (auto *found = dialog.findChild<QLabel *>(QLatin1String(label)))
+            found->setBuddy(dialog.findChild<QWidget *>(QLatin1String(box)));
     dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("場所(&I):"));
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類(&T):"));
     dialog.setLabelText(QFileDialog::Accept, acceptWord);

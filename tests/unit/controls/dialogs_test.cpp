@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -244,6 +245,11 @@ TEST_F(DialogsTest, RealFileBoxGivesADrivePathAndRefusesBackslashes)
     QString warning;
     WhenOpen<QFileDialog>([&](QFileDialog &dialog) {
         EXPECT_EQ(dialog.labelText(QFileDialog::Reject), QStringLiteral("キャンセル"));
+        for (const QLabel *label : dialog.findChildren<QLabel *>())
+            EXPECT_TRUE(!label->text().contains(QLatin1Char('&')) || label->buddy())
+                << label->text().toStdString();
+        EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(folder.path())), QStringLiteral("フォルダ"));
+        EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(good)), QStringLiteral("MDB ファイル"));
         dialog.setDirectory(folder.path());
         dialog.findChild<QLineEdit *>()->setText(bad);
         WhenOpen<QMessageBox>([&](QMessageBox &refusal) {
