@@ -4,7 +4,6 @@
 #include "platform/dialogs/dialogs.h"
 #include "platform/failure/runtime_error.h"
 #include "platform/host/host.h"
-#include "platform/text/one_line.h"
 #include "platform/text/trim.h"
 #include "presentation/frmFind.h"
 #include "presentation/page_file.h"
@@ -51,7 +50,7 @@ void frmFind::txtFind_Change()
     if (Shared.SearchMode != ModeIncremental)
         return;
     const QString typed = txtFind->Text();
-    const QString word = text::LTrim(text::OneLine(typed));
+    const QString word = text::LTrim(typed);
     if (word != typed) {
         // Raises the event again, with the text that counts.
         const auto caret = txtFind->cursorPosition() - static_cast<int>(typed.size() - word.size());

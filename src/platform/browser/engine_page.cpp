@@ -3,6 +3,7 @@
 #include "platform/browser/address.h"
 #include "platform/controls/handler.h"
 #include "platform/dialogs/dialogs.h"
+#include "platform/files/drive_path.h"
 
 #include <QAction>
 #include <QColor>
@@ -43,24 +44,40 @@ public:
 };
 
 /// Runs in a world of its own, script being off on the program's pages. Without it the engine
-/// brings the old scroll position back. The policy keeps handlers in the markup from running in the
-/// moment when script is switched on for a web page that is about to come.
+/// brings the old scroll position back. The policy keeps handlers in the markup, also in that of its frames,
+/// from running in the moment when script is switched on for a web page that is about to come. What the
+/// engine does by itself and without asking is kept back too: to go to an empty page, to open a box.
 QWebEngineScript LocalPageScript()
 {
     QWebEngineScript script;
     script.setName(QStringLiteral("local page"));
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::ApplicationWorld);
-    script.setRunsOnSubFrames(false);
+    script.setRunsOnSubFrames(true);
     script.setSourceCode(QStringLiteral(R"js(
-if (location.protocol === 'file:') {
-    history.scrollRestoration = 'manual';
+const above = location.ancestorOrigins;
+const isOfTheWeb = origin => /^https?:/.test(origin);
+if (!isOfTheWeb(location.href) && !(above.length > 0 && isOfTheWeb(above[above.length - 1]))) {
+    if (above.length === 0)
+        history.scrollRestoration = 'manual';
     document.addEventListener('DOMContentLoaded', () => {
         const policy = document.createElement('meta');
         policy.httpEquiv = 'Content-Security-Policy';
         policy.content = "script-src 'none'";
         document.head.appendChild(policy);
     });
+    // A refresh to any other place is refused when the engine asks.
+    addEventListener('load', () => {
+        if (document.querySelector('meta[http-equiv="refresh" i][content*="about:" i]'))
+            window.stop();
+    });
+    addEventListener('submit', event => event.preventDefault(), true);
+    addEventListener('click', event => {
+        const way = event.target.closest('a, area, input, button');
+        const leadsOn = way && (isOfTheWeb(way.href) || (way.getAttribute('href') || '').startsWith('#'));
+        if (way && !leadsOn)
+            event.preventDefault();
+    }, true);
 }
 )js"));
     return script;
@@ -183,7 +200,18 @@ bool EnginePage::javaScriptPrompt(const QUrl &origin, const QString &text, const
         if (MayShowBox(origin))
             *answer = dialogs::InputBox(text, origin.host(), given);
     });
-    return !answer->isEmpty();
+    return !answer->isNull();
+}
+
+QStringList EnginePage::chooseFiles(FileSelectionMode mode, const QStringList & /*former*/,
+                                    const QStringList & /*types*/)
+{
+    QString chosen;
+    controls::RunHandler([&] {
+        if (IsWebPage(url()) && mode != FileSelectUploadFolder)
+            chosen = dialogs::OpenFile(QString(), QStringLiteral("すべてのファイル (*.*)|*.*"), true, false);
+    });
+    return chosen.isEmpty() ? QStringList() : QStringList{files::HostPath(chosen)};
 }
 
 /// The menu of a page in the user's language, and without what a window alone cannot do.

@@ -32,6 +32,9 @@ protected:
     bool javaScriptConfirm(const QUrl &origin, const QString &text) override;
     bool javaScriptPrompt(const QUrl &origin, const QString &text, const QString &given,
                           QString *answer) override;
+    /// A page of the program gets no file.
+    QStringList chooseFiles(FileSelectionMode mode, const QStringList &former,
+                            const QStringList &types) override;
 
 private:
     void NameActions();

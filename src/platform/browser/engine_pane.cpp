@@ -131,7 +131,9 @@ void EnginePane::ConnectPage()
                 controls::RunHandler([this, request] { TakeDownload(*request); });
             });
     connect(m_page, &QWebEnginePage::linkHovered, this, &Pane::StatusChanged);
+    connect(m_page, &QWebEnginePage::selectionChanged, this, [this] { m_isAllSelected = false; });
     connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
+        m_isAllSelected = false;
         m_awaitsStart = false;
         m_loading = true;
         Q_EMIT StatusChanged(QStringLiteral("ページを開いています..."));
@@ -253,12 +255,16 @@ QString EnginePane::SelectedText() const { return m_page->selectedText(); }
 
 void EnginePane::SelectAll()
 {
+    // It tells nothing of a selection that stays what it was.
+    if (m_isAllSelected)
+        return;
     // The engine selects in a process of its own; what follows at once wants the selection.
     const LateAnswer<bool> answer;
     QObject receiver;
     connect(m_page, &QWebEnginePage::selectionChanged, &receiver, [taker = answer.Taker()] { taker(true); });
     m_page->triggerAction(QWebEnginePage::SelectAll);
     answer.Wait(kLongestWaitForSelection, QEventLoop::ExcludeUserInputEvents);
+    m_isAllSelected = true;
 }
 
 QString EnginePane::ShownText() const

@@ -72,6 +72,7 @@ private:
     QTimer m_startTimeout;
     bool m_awaitsStart = false;
     bool m_loading = false;
+    bool m_isAllSelected = false;
     bool m_focusGranted = false;
 };
 

@@ -93,7 +93,10 @@ QString dialogs::InputBox(const QString &prompt, const QString &title, const QSt
     box.text = prompt;
     box.defaultText = defaultText;
     const Reply reply = Show(std::move(box));
-    return reply.accepted ? text::OneLine(reply.text) : QString();
+    if (!reply.accepted)
+        return {};
+    const QString line = text::OneLine(reply.text);
+    return line.isNull() ? QStringLiteral("") : line;
 }
 
 QString dialogs::OpenFile(const QString &title, const QString &filter, bool mustExist, bool createPrompt)

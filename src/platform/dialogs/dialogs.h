@@ -83,7 +83,7 @@ int MsgBox(const QString &text, int style = OKOnly, const QString &title = {});
 /// Beep of the style's icon, then the box.
 int BeepAndMsgBox(int beep, const QString &text, int style, const QString &title);
 
-/// An input box; empty when it is cancelled.
+/// An input box; a null text when it is cancelled.
 QString InputBox(const QString &prompt, const QString &title, const QString &defaultText = {});
 
 /// File boxes: the chosen drive path, empty when cancelled. The filter is "text|pattern|...".

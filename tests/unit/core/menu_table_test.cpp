@@ -50,3 +50,34 @@ TEST(MenuTable, SeparatorsStandBetweenEntries)
         EXPECT_EQ(rows[i + 1].kind, MenuRow::Kind::Entry) << qPrintable(rows[i].name);
     }
 }
+
+TEST(MenuTable, StandsInTheOrderOfTheBar)
+{
+    const QStringList expected =
+        QStringLiteral(
+            "mnufile mnuFileCreate mnuOpen mnuCnv mnuCompress mnufilesep1 mnuPageSettings mnuPrint "
+            "mnuPrintView "
+            "mnufilesep20 mnuExit "
+            "mnuEdit mnuCopy mnuSelectAll mnufilesep2 mnuFind "
+            "mnuView mnuGoBack mnuGoForward mnuGoHome mnuCancel mnuReflesh mnufilesep3 mnuHideListBox "
+            "mnuSearch mnuIncSrch mnufilesep4 mnuPreSrch mnuMidSrch mnuPostSrch mnufilesep5 mnuWildCard "
+            "mnuWildCardBuilder mnufilesep6 mnuAddSearchCondition mnufilesep7 mnuTxtInMeaning "
+            "mnuTxtInExample "
+            "mnufilesep8 mnuHistory mnufilesep9 mnuSrchWebSite "
+            "mntKindOfSrch mnuSrchFromAll mnuSrchFromWord mnuSrchFromPhrase "
+            "mnuTool mnuDicAdd mnufilesep10 mnuColorSel mnufilesep11 mnuListSettings mnufilesep12 "
+            "mnuSpeakingSetting "
+            "mnuHelp mnuTopicSearch mnufilesep13 mnuAbout "
+            "mPopup mnuSpeakKeyWord mnuSpeakSelectedArea mCancel")
+            .split(u' ');
+    const QStringList menus =
+        QStringLiteral("mnufile mnuEdit mnuView mnuSearch mntKindOfSrch mnuTool mnuHelp mPopup").split(u' ');
+    QStringList names, menuNames;
+    for (const MenuRow &row : MenuTable()) {
+        names.append(row.name);
+        if (row.kind == MenuRow::Kind::Menu)
+            menuNames.append(row.name);
+    }
+    EXPECT_EQ(names, expected);
+    EXPECT_EQ(menuNames, menus);
+}
