@@ -16,7 +16,9 @@ int main(int argc, char *argv[])
     options.shareFolder = share;
     Program program(options);
     // Queued, because the run may end before the event loop has begun.
-    QObject::connect(&program, &Program::Ended, &application, &QApplication::quit, Qt::QueuedConnection);
+    // Not by asking the windows, for the figure of a character refuses to be closed.
+    QObject::connect(
+        &program, &Program::Ended, &application, [] { QApplication::exit(); }, Qt::QueuedConnection);
     host::OnEndSignal(&program, [&program] { program.End(); });
     QTimer::singleShot(0, &program, &Program::Start);
     return QApplication::exec();

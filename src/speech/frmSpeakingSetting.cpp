@@ -134,7 +134,7 @@ AgentSettings frmSpeakingSetting::Chosen() const
 
 void frmSpeakingSetting::UseNewCharacter(const AgentSettings &settings)
 {
-    if (frmFind *window = MainWindow(); window && Shared.SpeechEnabled == 1)
+    if (frmFind *window = MainWindow(); window && Shared.Character)
         window->Close_Character(CharacterIdFromFile(Shared.CharacterFile));
     UseAgentSettings(settings);
     OpenCharacterInUse();

@@ -66,7 +66,8 @@ bool IsLeftOver(const QString &path)
     if (!files::Exists(path))
         return false;
     try {
-        const data::Session session(files::HostPath(path), path, data::Session::Access::ReadOnly);
+        // Not for reading alone: what the end of a process cut short has to be taken back first.
+        const data::Session session(files::HostPath(path), path, data::Session::Access::Existing);
         return session.NumberOf("SELECT count(*) FROM sqlite_schema WHERE name = 'Dictionary'") == 0 ||
                session.NumberOf("SELECT EXISTS(SELECT 1 FROM Dictionary)") == 0;
     } catch (const RuntimeError &) {

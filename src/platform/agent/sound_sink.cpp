@@ -84,8 +84,11 @@ public:
 
     std::int64_t Played() const override
     {
-        const std::int64_t heard = m_sink->processedUSecs() * m_rate / kMicrosecondsPerSecond;
-        const std::int64_t played = std::min(heard, m_taken);
+        // To the nearest sample, for the device's own rounding must not keep the last one back; and what was
+        // heard stays heard, though a device that has gone tells of nothing.
+        const std::int64_t heard =
+            (m_sink->processedUSecs() * m_rate + kMicrosecondsPerSecond / 2) / kMicrosecondsPerSecond;
+        const std::int64_t played = std::max(std::min(heard, m_taken), m_lastPlayed);
         if (played > m_lastPlayed || played == m_taken)
             m_sinceProgress.start();
         m_lastPlayed = played;
@@ -96,6 +99,8 @@ public:
     {
         // A device that has been pulled out may fail, or just take nothing any more.
         constexpr int patience = 2000;
+        // A window that was busy for longer than that has not asked meanwhile.
+        Played();
         const bool isStopped = m_sink->state() == QAudio::StoppedState ||
                                m_sink->error() == QAudio::FatalError || m_sink->error() == QAudio::IOError;
         return isStopped || m_sinceProgress.elapsed() > patience;

@@ -4,6 +4,7 @@
 #include "platform/failure/fault_points.h"
 #include "platform/failure/runtime_error.h"
 
+#include <chrono>
 #include <espeak-ng/speak_lib.h>
 
 namespace
@@ -14,7 +15,18 @@ constexpr int kMillisecondsPerSecond = 1000;
 constexpr std::size_t kMostSamples = std::size_t(10) * agent::Synthesizer::kRate;
 
 /// The library is one for the whole process: its state, and its way of saying where it reports.
-std::mutex libraryMutex;
+std::timed_mutex libraryMutex;
+
+/// Takes the library, unless that is no longer wanted before somebody else gives it back: whoever speaks may
+/// hold it for as long as his words are not heard.
+template <typename Wanted> std::unique_lock<std::timed_mutex> TakeLibrary(Wanted isWanted)
+{
+    constexpr std::chrono::milliseconds look{10};
+    std::unique_lock lock(libraryMutex, std::defer_lock);
+    while (isWanted() && !lock.try_lock_for(look))
+        continue;
+    return lock;
+}
 
 std::int64_t SamplesOf(std::int64_t milliseconds)
 {
@@ -230,8 +242,8 @@ void agent::Synthesizer::Run()
 {
     // The first request need not wait for the library.
     if (!m_isVoiceBarred) {
-        const std::lock_guard lock(libraryMutex);
-        HasLibrary();
+        if (const auto library = TakeLibrary([this] { return IsWanted(0); }))
+            HasLibrary();
     }
     while (true) {
         std::unique_lock lock(m_mutex);
@@ -252,8 +264,9 @@ void agent::Synthesizer::Speak(const Task &task, int generation)
     bool isWanted = true;
     bool hasVoice = false;
     if (!m_isVoiceBarred) {
-        const std::lock_guard lock(libraryMutex);
-        hasVoice = TakeVoice(m_settings);
+        const auto library = TakeLibrary([&] { return IsWanted(generation); });
+        isWanted = library.owns_lock();
+        hasVoice = isWanted && TakeVoice(m_settings);
         if (hasVoice)
             isWanted = Utterance(*this, text, task.request, generation).Speak();
     }

@@ -81,6 +81,9 @@ TEST(CharacterFile, DescriptionsAreChecked)
     EXPECT_TRUE(IsRefused(With(kHead, "Name: Test\n", "")));
     EXPECT_TRUE(IsRefused(With(kHead, "Name: Test", "Name:  ")));
     EXPECT_TRUE(IsRefused(With(kHead, "en-us+f3", "../../etc/passwd")));
+    EXPECT_FALSE(IsRefused(With(kHead, "en-us+f3", "a2345678901234567890+" + QByteArray(19, 'v'))));
+    EXPECT_TRUE(IsRefused(With(kHead, "en-us+f3", "en-us+" + QByteArray(20, 'v'))));
+    EXPECT_TRUE(IsRefused(With(kHead, "en-us+f3", "a23456789012345678901")));
     EXPECT_TRUE(IsRefused(With(kHead, "Pitch: 50", "Pitch: 101")));
     EXPECT_TRUE(IsRefused(With(kHead, "Rate: 165", "Rate: fast")));
     EXPECT_TRUE(IsRefused(With(kHead, "Size: 64x64", "Size: 64")));
@@ -94,8 +97,19 @@ TEST(CharacterFile, DrawingsReachNothingAndExhaustNothing)
          {"<image href=\"file:///etc/passwd\"/>", "<use href=\"#body\"/>", "<script>1</script>",
           "<text>x</text>", "<style>*{}</style>", "<animate/>", "<g style=\"fill:red\"/>",
           "<path d=\"M0 0\" stroke-dasharray=\"0.001\"/>", "<circle r=\"1e30\"/>",
-          "<path d=\"M0 0 L99999 0\"/>", "<path d=\"M0 0 L1e999 0\"/>", "<?php 1 ?>"})
+          "<path d=\"M0 0 L99999 0\"/>", "<path d=\"M0 0 L1e999 0\"/>", "<?php 1 ?>",
+          "<g transform=\"scale(20)\"/>", "<g transform=\"matrix(9 0 0 9 0 0)\"/>",
+          "<linearGradient gradientTransform=\"skewX(80)\"/>"})
         EXPECT_TRUE(IsRefused(kHead + Drawing(inside))) << inside;
+    EXPECT_FALSE(IsRefused(kHead + Drawing("<g transform=\"translate(9 9) rotate(90)\"/>")));
+    // Steps that lead far away one behind the other, and more of them than anyone draws by hand.
+    const auto path = [](const char *step, int steps) {
+        return kHead + Drawing("<path d=\"M0 0" + QByteArray(step).repeated(steps) + "\"/>");
+    };
+    EXPECT_FALSE(IsRefused(path(" l9 9", 900)));
+    EXPECT_TRUE(IsRefused(path(" l9 9", 911)));
+    EXPECT_FALSE(IsRefused(path(" L99 99", 2000)));
+    EXPECT_TRUE(IsRefused(path(" L99 99", 2900)));
     EXPECT_TRUE(IsRefused(kHead + "<!DOCTYPE svg [<!ENTITY a \"b\">]>" + Drawing()));
     EXPECT_TRUE(IsRefused(kHead + Drawing(QByteArray("<g>").repeated(40) + QByteArray("</g>").repeated(40))));
     EXPECT_TRUE(IsRefused(kHead + Drawing(QByteArray("<g/>").repeated(5000))));

@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QXmlStreamReader>
 #include <cmath>
+#include <numeric>
+#include <optional>
 
 namespace
 {
@@ -119,30 +121,53 @@ bool IsMeasure(QStringView name)
     return measures.contains(name.toString());
 }
 
-/// Whether all numbers of a measure are such that a painter can bear them.
-bool IsBearable(const QString &measure)
+/// The numbers of a measure; nothing where one is none that a painter can bear.
+std::optional<QList<double>> NumbersOf(const QString &measure)
 {
-    constexpr double greatest = 4096;
+    constexpr double greatest = 1024;
     static const QRegularExpression number(
         QStringLiteral("[-+]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][-+]?[0-9]+)?"));
+    QList<double> numbers;
     for (const QRegularExpressionMatch &match : number.globalMatch(measure)) {
         bool isNumber = false;
         const double value = match.captured().toDouble(&isNumber);
         if (!isNumber || !std::isfinite(value) || std::abs(value) > greatest)
-            return false;
+            return std::nullopt;
+        numbers.append(value);
     }
-    return true;
+    return numbers;
 }
 
-void CheckElement(const QXmlStreamReader &reader, QSet<QString> &layers)
+/// Whether a painter can bear a measure: a path whose steps, each from where the one before ended, lead far
+/// away takes it long, and so does a drawing that is made larger and larger.
+bool IsBearable(QStringView name, const QString &measure)
 {
+    constexpr double farthest = 16384;
+    static const QRegularExpression step(QStringLiteral("[mlhvcsqta]"));
+    static const QRegularExpression growing(QStringLiteral("matrix|scale|skew"));
+    const std::optional<QList<double>> numbers = NumbersOf(measure);
+    if (!numbers || (name.endsWith(QLatin1String("ransform")) && measure.contains(growing)))
+        return false;
+    const double way = std::accumulate(numbers->cbegin(), numbers->cend(), 0.0,
+                                       [](double sum, double value) { return sum + std::abs(value); });
+    return name != QLatin1String("d") || !measure.contains(step) || way <= farthest;
+}
+
+/// What is drawn on the way is bounded: the figure is painted between two of the window's turns.
+void CheckElement(const QXmlStreamReader &reader, QSet<QString> &layers, qsizetype &measures)
+{
+    constexpr qsizetype mostMeasures = 20'000;
     Require(IsDrawn(reader.name()));
     for (const QXmlStreamAttribute &attribute : reader.attributes()) {
         const QString value = attribute.value().toString();
-        Require(IsPlainAttribute(attribute.qualifiedName()) ||
-                (IsMeasure(attribute.qualifiedName()) && IsBearable(value)));
-        if (attribute.qualifiedName() == QLatin1String("id"))
-            layers.insert(value);
+        if (IsPlainAttribute(attribute.qualifiedName())) {
+            if (attribute.qualifiedName() == QLatin1String("id"))
+                layers.insert(value);
+            continue;
+        }
+        Require(IsMeasure(attribute.qualifiedName()) && IsBearable(attribute.qualifiedName(), value));
+        measures += value.size();
+        Require(measures <= mostMeasures);
     }
 }
 
@@ -156,10 +181,11 @@ QStringList RequiredLayers()
 
 void CheckDrawing(const QByteArray &drawing, QSize size)
 {
-    constexpr int mostElements = 4000, greatestDepth = 32;
+    constexpr int mostElements = 500, greatestDepth = 32;
     QXmlStreamReader reader(drawing);
     QSet<QString> layers;
     int elements = 0, depth = 0;
+    qsizetype measures = 0;
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         Require(token != QXmlStreamReader::DTD && token != QXmlStreamReader::EntityReference &&
@@ -173,7 +199,7 @@ void CheckDrawing(const QByteArray &drawing, QSize size)
             Require(reader.name() == QLatin1String("svg") &&
                     reader.attributes().value(QLatin1String("viewBox")) ==
                         QStringLiteral("0 0 %1 %2").arg(size.width()).arg(size.height()));
-        CheckElement(reader, layers);
+        CheckElement(reader, layers, measures);
     }
     Require(!reader.hasError());
     for (const QString &layer : RequiredLayers())
@@ -200,7 +226,7 @@ QString agent::MouthLayer(int mouth)
 agent::CharacterFile agent::ParseCharacterFile(const QByteArray &content)
 {
     constexpr int mostPitch = 100, leastRate = 80, mostRate = 450, longestName = 40;
-    static const QRegularExpression voice(QStringLiteral("^[a-z][a-z0-9-]*(\\+[a-zA-Z0-9]+)?$"));
+    static const QRegularExpression voice(QStringLiteral("^[a-z][a-z0-9-]{0,19}(\\+[a-zA-Z0-9]{1,19})?$"));
     Require(content.size() <= kLargestCharacterFile);
     QByteArray rest = content;
     Require(TakeLine(rest) == kFirstLine);

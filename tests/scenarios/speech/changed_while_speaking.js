@@ -1,0 +1,30 @@
+// A character is changed in the midst of a long text, though its settings were lost: the old one goes first.
+const record = (flag, folder, file) => flag + folder + " ".repeat(255 - folder.length) + file + " ".repeat(50 - file.length);
+const file = appFile("AgentDefi.dat");
+const wait = ms => {
+    for (const end = Date.now() + ms; Date.now() < end;);
+    settle();
+};
+const dictionary = tempDir() + "/one.mdb";
+makeDictionary(dictionary, [["owl", null, 1, "x", null]]);
+setCatalogue([{name: "一", path: dictionary, selected: true}]);
+writeBytes(file, record("\x01", "default", "Neko.acs"));
+start();
+setText("frmFind.txtFind", "a long story ".repeat(5000));
+menu("mnuSpeakKeyWord");
+check(speech().map(each => each.call).includes("Speak"), true, "Neko speaks a long text");
+wait(2000);
+remove(file);
+menu("mnuSpeakingSetting");
+check(state("SpeechEnabled"), 0, "a lost file reads as off");
+click("frmSpeakingSetting.Check1");
+choose("frmSpeakingSetting.Combo1", "Fukuro.acs");
+click("frmSpeakingSetting.Command2");
+const change = ["Unload", "Connected", "Connected", "Load", "LanguageID"];
+check(speech().map(each => each.call), change, "the one that spoke has gone before the other comes");
+check([state("SpeechEnabled"), state("CharacterFile").endsWith("Fukuro.acs")], [1, true], "that one is in use");
+wait(1000);
+menu("mnuSpeakingSetting");
+choose("frmSpeakingSetting.Combo1", "Neko.acs");
+click("frmSpeakingSetting.Command2");
+check(speech().map(each => each.call), change, "and back");
