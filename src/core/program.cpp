@@ -17,8 +17,10 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QTranslator>
+#include <utility>
 #include <vector>
 
 /// The pictures lie in a static library, which the linker would leave without them. (The macro wants
@@ -74,10 +76,14 @@ void Program::LeaveSplash()
 
 void Program::End()
 {
-    const QList<controls::Form *> forms = controls::Form::Loaded();
-    for (auto form = forms.crbegin(); form != forms.crend(); ++form)
-        if (*form != MainWindow())
-            (*form)->Unload(controls::UnloadReason::Exit);
+    // The end of one may take others with it.
+    QList<QPointer<controls::Form>> forms;
+    for (controls::Form *form : controls::Form::Loaded())
+        if (form != MainWindow())
+            forms.prepend(form);
+    for (const QPointer<controls::Form> &form : std::as_const(forms))
+        if (form)
+            form->Unload(controls::UnloadReason::Exit);
     if (frmFind *window = MainWindow())
         window->Unload(controls::UnloadReason::Exit);
     else

@@ -157,8 +157,11 @@ bool EnginePage::acceptNavigationRequest(const QUrl &target, NavigationType type
         return false;
     m_webIsComing = IsWebPage(target);
     m_coming = target;
-    m_boxes = 0;
-    m_isSilenced = false;
+    // A page that goes to itself again and again stays silenced.
+    if (type == NavigationTypeTyped || type == NavigationTypeLinkClicked) {
+        m_boxes = 0;
+        m_isSilenced = false;
+    }
     ApplySettings(target);
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -16,9 +17,11 @@ void TellEventLoop(int signal)
 {
     // One that does not end by it is ended by the next.
     std::signal(signal, SIG_DFL);
+    const int error = errno;
     const char byte = 0;
     if (write(wakeUp[0], &byte, 1) != 1)
         std::raise(signal);
+    errno = error;
 }
 
 } // namespace

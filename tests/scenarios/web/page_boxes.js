@@ -23,6 +23,15 @@ const browse = () => {
            "このページは続けてメッセージを表示しようとしています。"], "told what it does, and silenced");
     ok(paneText().includes("end of alerts"), "the page comes to its end");
 
+    // Nor by loading itself anew each time.
+    for (const word of ["OK", "OK", "OK", "いいえ"])
+        answer(word);
+    go(site + "again");
+    for (let turn = 0; turn < 20 && !text(box).endsWith("#9"); ++turn)
+        settle();
+    check(boxes().map(shown => shown.text.split("\r")[0]),
+          ["n", "n", "n", "このページは続けてメッセージを表示しようとしています。"], "silenced for good");
+
     answer("OK");
     answer("キャンセル");
     answerInput("猫");
